@@ -1,0 +1,41 @@
+#pragma once
+
+namespace tombrello {
+
+/// Card codes: 1..52 the first pack and 53..104 the second, suit by suit (1 hearts, 2 diamonds,
+/// 3 clubs, 4 spades), Ace to King. 0 is an empty slot.
+inline constexpr int kCards = 104;
+inline constexpr int kPack = 52;
+inline constexpr int kRanks = 13;
+inline constexpr int kSuits = 4;
+inline constexpr int kSelected = 1000;  ///< added to a selected card of seat 1
+inline constexpr int kSentinel = 1000;  ///< closes a meld
+
+/// The card of the first pack with the same face. Also the number of its face picture.
+constexpr int first_pack_twin(int card) {
+  return card > kPack ? card - kPack : card;
+}
+
+/// The number of the picture of a card's back.
+constexpr int back_number(int card) {
+  return card > kPack ? 1 : 0;
+}
+
+/// Suit 1..4 of a bare card code 0..104; 0 for no card.
+constexpr int Seme(int card) {
+  const int twin = first_pack_twin(card);
+  return (twin + kRanks - 1) / kRanks;
+}
+
+/// Rank 1 (Ace) to 13 (King) of a bare card code 0..104; 0 for no card.
+constexpr int ValCarta(int card) {
+  const int twin = first_pack_twin(card);
+  return twin == 0 ? 0 : (twin - 1) % kRanks + 1;
+}
+
+/// Where a card is marked in a presence string, from 1. It is also its first-pack code.
+constexpr int presence_position(int card) {
+  return (Seme(card) - 1) * kRanks + ValCarta(card);
+}
+
+}  // namespace tombrello

@@ -1,0 +1,1 @@
+#include "cards/card.h"

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+namespace tombrello {
+
+/// One media device: a wave device or a sequencer. It is given a file name and commands, and
+/// plays by itself. A command that fails does nothing and reports nothing.
+class MediaControl {
+ public:
+  enum class Command { open, close, play };
+
+  virtual ~MediaControl() = default;
+
+  /// The file that the next `open` opens, relative to the program's folder, '/' between names.
+  virtual void set_file_name(const std::string& name) = 0;
+  /// `play` returns at once; it starts from the beginning, whatever sounded before.
+  virtual void command(Command command) = 0;
+  virtual void set_blocking(bool blocking) = 0;
+  virtual void set_opening_option(int option) = 0;
+  virtual void set_start_option(int option) = 0;
+};
+
+/// Where a device reports. Called from inside `Window::serve_events`, on the game's thread.
+class MediaEvents {
+ public:
+  virtual ~MediaEvents() = default;
+  /// What was played came to its natural end: `code` is 1. Other codes mean nothing.
+  virtual void media_done(int code) = 0;
+};
+
+}  // namespace tombrello
