@@ -1,0 +1,126 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "cards/card.h"
+
+namespace tombrello {
+
+/// Seats 1..4 in turn order: 1 the person (bottom), 2 left, 3 top, 4 right. Seats 1 and 3 are
+/// team 1, seats 2 and 4 team 2. Arrays by seat and by slot count from 1.
+inline constexpr int kSeats = 4;
+inline constexpr int kHandSlots = 14;      ///< slots 1..14 of a hand
+inline constexpr int kHandCards = 13;      ///< dealt to each seat
+inline constexpr int kListPositions = 30;  ///< positions 1..30 of a list of melds
+inline constexpr int kLastRow = 10;        ///< rows 0..10 of `punti_mano`
+inline constexpr int kWinningTotal = 1500;
+
+constexpr int next_seat(int seat) {
+  return seat == kSeats ? 1 : seat + 1;
+}
+constexpr int partner_of(int seat) {
+  return seat > 2 ? seat - 2 : seat + 2;
+}
+
+/// Which suit-ranks a hand holds: 52 characters, '*' or '_', at `presence_position` from 1.
+/// It doesn't count: both copies of a card give a single '*'.
+class PresenceString {
+ public:
+  PresenceString() { clear(); }
+  void clear() { marks_.fill('_'); }
+  void mark(int card) { marks_[static_cast<std::size_t>(presence_position(card) - 1)] = '*'; }
+  bool holds(int position) const { return marks_[static_cast<std::size_t>(position - 1)] == '*'; }
+  /// The 13 characters of a suit index 0..3, Ace to King.
+  const char* slice(int suit_index) const { return marks_.data() + suit_index * kRanks; }
+  bool operator==(const PresenceString&) const = default;
+
+ private:
+  std::array<char, kPack> marks_;
+};
+
+template <class Row>
+using BySeat = std::array<Row, kSeats + 1>;
+
+/// All that the seats, the table and the shell share, in fixed arrays, allocated once.
+/// No procedure takes a hand, a pile or a meld; each acts on this state by name.
+struct State {
+  // Deck, stock and pile
+  std::array<std::int16_t, kCards + 1> mazzo{};      ///< 1..52 dealt, 53 turned up, 54.. the stock
+  std::array<std::int16_t, kCards + 1> mazzo_tmp{};  ///< source of a shuffle; 0 is taken
+  std::int16_t tallone = 0;                          ///< slot 54..104 of the next stock card
+  std::array<std::int16_t, kPack> pozzo{};           ///< the pile, bottom first
+  std::int16_t n_pozzo = 0;                          ///< 0..52
+
+  // Hands and table
+  BySeat<std::array<std::int16_t, kHandSlots + 1>> mano{};
+  BySeat<std::uint8_t> n_mano{};
+  BySeat<std::array<std::int16_t, kListPositions + 1>> calate{};  ///< melds, each closed by 1000
+  BySeat<std::uint8_t> n_calate{};                                ///< 0..30, sentinels included
+
+  // Turn and players
+  std::uint8_t cartaro = 0;   ///< dealer 1..4; 0 without a deal, and for a tie of the draw
+  std::uint8_t di_turno = 0;  ///< seat on turn
+  std::uint8_t compagno = 0;  ///< partner of the computer seat on turn
+  bool ha_pescato = false;    ///< the seat on turn has drawn
+  std::uint8_t azione = 0;    ///< code posted by the pointer handler, 0 none
+  bool calata_ok = false;     ///< what the judge of melds said
+  std::array<std::string, kSeats> nomi;  ///< of seat s at s - 1, UTF-8
+  std::array<std::string, 2> squadre;
+
+  // Selection by the person
+  std::int16_t n_selezionate = 0;
+  std::array<std::uint8_t, kHandSlots + 1> slot_selezionati{};
+  std::uint8_t slot_cliccato = 0;
+  float x_click = 0;             ///< logical units
+  std::int16_t pos_attacco = 0;  ///< position of the last card of the meld that is added to
+
+  // What computer seats reason with
+  BySeat<PresenceString> presenze;
+  PresenceString presenze_salvate;
+  std::array<std::uint8_t, 3> candidate{};  ///< 1 top of the pile, 2 next stock card
+  std::uint8_t scelta_pesca = 0;            ///< candidate that made a meld, 0 none
+  std::array<std::int16_t, kRanks + 1> carte_calata{};
+  int lunghezza_calata = 0;
+
+  // Match
+  std::int16_t numero_mano = 0;  ///< 0 only for a replayed first hand
+  std::array<std::array<std::int16_t, 3>, kLastRow + 1> punti_mano{};  ///< [hand][team]
+  std::array<std::int16_t, 3> punti_totali{};
+  std::array<std::uint8_t, kRanks + 1> punti_carta{};
+  bool continua = false;
+  bool mano_salvata = false;
+
+  // Draw for dealer
+  BySeat<std::uint8_t> valori_estratti{};
+  std::int16_t indice_estrazione = 0;
+  std::uint8_t carta_scelta = 0;  ///< also the card that is being added to a meld
+  BySeat<float> x_estrazione{};
+  BySeat<float> y_estrazione{};
+
+  // Options and pacing
+  std::uint8_t velocita = 0;  ///< 1..3
+  float ritardo_base = 0;     ///< 0.5, 1 or 1.5; greater is quicker
+  bool timer_scaduto = false;
+  std::uint8_t brano = 0;
+  std::uint8_t fruscio_opz = 0;  ///< 0 silent, 1 sounds on
+  bool click_avvio = false;
+  float scala_carte = 1;
+};
+
+/// The action codes of `azione`.
+enum Azione : std::uint8_t {
+  kNoAction = 0,
+  kDrawPile = 1,
+  kDrawStock = 2,
+  kSelect = 3,
+  kLayOwnSide = 4,
+  kLayPartnerSide = 5,
+  kDiscard = 6,
+  kDealerDraw = 7,
+  kNamesConfirmed = 8,
+};
+
+}  // namespace tombrello

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "cards/deck.h"
+#include "cards/outside.h"
+#include "cards/state.h"
+#include "computer/computer.h"
+#include "human/turn.h"
+#include "match/dealer_draw.h"
+#include "match/scoring.h"
+
+namespace tombrello {
+
+/// The spine of a run: prepares the match, then repeats hands, and within a hand turns.
+class Match {
+ public:
+  Match(State& state, Deck& deck, DealerDraw& draw, HumanTurn& human, Computer& computer,
+        Scoring& scoring, Outside outside)
+      : s_(state),
+        deck_(deck),
+        draw_(draw),
+        human_(human),
+        computer_(computer),
+        scoring_(scoring),
+        out_(outside) {}
+
+  /// Plays the one match of a run. Never returns; it is left when a wait unwinds.
+  [[noreturn]] void Main();
+
+  /// Clears the state for a hand, and shuffles unless a replay is marked.
+  void Gioco_Imposta();
+
+  /// The parts of `Main`, for those who play hands one by one.
+  void prepare_match();
+  void start_hand();
+  bool play_turn();  ///< answers whether the hand is over
+  void pass_turn();
+  void end_hand();
+  bool is_over() const;
+  void next_hand();
+
+ private:
+  void wait_for_continue();
+
+  State& s_;
+  Deck& deck_;
+  DealerDraw& draw_;
+  HumanTurn& human_;
+  Computer& computer_;
+  Scoring& scoring_;
+  Outside out_;
+};
+
+}  // namespace tombrello

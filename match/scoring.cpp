@@ -1,0 +1,65 @@
+#include "match/scoring.h"
+
+namespace tombrello {
+namespace {
+
+int factor_of_meld(bool in_suit, int cards) {
+  if (!in_suit) return cards == 4 ? 2 : 1;  // poker, tris
+  if (cards >= 14) return 5;                // Tombrellone, and what was added to one
+  return cards >= 7 ? 2 : 1;                // Tombrello, scala
+}
+
+}  // namespace
+
+void Scoring::risultato() {
+  out_.table.panel_line();
+  out_.wait.ritardo(0.1F);
+  out_.table.panel_opens();
+  fill_punti_carta();
+  int seat_out = 1;
+  while (seat_out < kSeats && s_.n_mano[seat_out] != 0) ++seat_out;
+  make_room_for_hand();
+  auto& row = s_.punti_mano[row_of(s_.numero_mano)];
+  for (int team = 1; team <= 2; ++team) {
+    row[team] = static_cast<std::int16_t>(row[team] + count_team(team, seat_out));
+    s_.punti_totali[team] = static_cast<std::int16_t>(s_.punti_totali[team] + row[team]);
+  }
+  out_.table.scoreboard();
+}
+
+void Scoring::fill_punti_carta() {
+  s_.punti_carta = {0, 15, 5, 5, 5, 5, 10, 10, 10, 10, 10, 10, 10, 10};
+}
+
+// From the eleventh hand on the oldest row gives way.
+void Scoring::make_room_for_hand() {
+  if (s_.numero_mano <= kLastRow) return;
+  for (int row = 1; row < kLastRow; ++row) s_.punti_mano[row] = s_.punti_mano[row + 1];
+  s_.punti_mano[kLastRow] = {};
+}
+
+int Scoring::count_team(int team, int seat_out) const {
+  int score = 0;
+  for (const int seat : {team, team + 2}) {
+    int cards = 0;  // of the last meld counted
+    int first = 1;
+    for (int k = 1; k <= s_.n_calate[seat]; ++k) {
+      if (s_.calate[seat][k] != kSentinel) continue;
+      score += points_of_meld(seat, first, k - 1);
+      cards = k - first;
+      first = k + 1;
+    }
+    if (cards == 13 && seat == partner_of(seat_out)) score *= 2;
+    for (int k = 1; k <= s_.n_mano[seat]; ++k) score -= s_.punti_carta[ValCarta(s_.mano[seat][k])];
+  }
+  return score;
+}
+
+int Scoring::points_of_meld(int seat, int first, int last) const {
+  const auto& list = s_.calate[seat];
+  int points = 0;
+  for (int k = first; k <= last; ++k) points += s_.punti_carta[ValCarta(list[k])];
+  return points * factor_of_meld(Seme(list[last]) == Seme(list[last - 1]), last - first + 1);
+}
+
+}  // namespace tombrello

@@ -1,0 +1,53 @@
+#include "melds/melds.h"
+
+namespace tombrello {
+
+int Melds::first_of_meld(int seat, int last) const {
+  int k = last;
+  while (k > 1 && s_.calate[seat][k - 1] != kSentinel) --k;
+  return k;
+}
+
+bool Melds::is_scala(int seat, int last) const {
+  const auto& list = s_.calate[seat];
+  return Seme(list[last]) == Seme(list[last - 1]);
+}
+
+bool fits_scala(int rank, int first, int last) {
+  return follows(last, rank) || follows(rank, first);
+}
+
+void Melds::attacco_poker(int seat) {
+  const auto& list = s_.calate[seat];
+  const int last = s_.pos_attacco;
+  s_.carta_scelta = static_cast<std::uint8_t>(list[s_.n_calate[seat] - 1]);
+  if (last - first_of_meld(seat, last) + 1 == 4) return;  // a poker takes no more cards
+  if (ValCarta(s_.carta_scelta) != ValCarta(list[last])) {
+    s_.calata_ok = false;
+    return;
+  }
+  const int lacking = missing_suit(Seme(list[last]), Seme(list[last - 1]), Seme(list[last - 2]));
+  if (Seme(s_.carta_scelta) != lacking) return;
+  insert_before_last(seat);
+}
+
+void Melds::attacco_scala(int seat) {
+  const auto& list = s_.calate[seat];
+  s_.carta_scelta = static_cast<std::uint8_t>(list[s_.n_calate[seat] - 1]);
+  s_.calata_ok = false;
+  const int first = ValCarta(list[first_of_meld(seat, s_.pos_attacco)]);
+  const int last = ValCarta(list[s_.pos_attacco]);
+  if (fits_scala(ValCarta(s_.carta_scelta), first, last)) insert_before_last(seat);
+}
+
+// The card lands in front of the target's last card; what follows moves up by one.
+void Melds::insert_before_last(int seat) {
+  auto& list = s_.calate[seat];
+  list[s_.n_calate[seat]] = 0;
+  --s_.n_calate[seat];
+  for (int j = s_.n_calate[seat]; j > s_.pos_attacco; --j) list[j] = list[j - 1];
+  list[s_.pos_attacco] = s_.carta_scelta;
+  s_.calata_ok = true;
+}
+
+}  // namespace tombrello
