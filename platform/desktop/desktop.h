@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QApplication>
+
+#include "platform/desktop/desktop_timer.h"
+#include "platform/desktop/desktop_window.h"
+#include "platform/desktop/disk_archive.h"
+#include "platform/desktop/stop_signal.h"
+#include "platform/desktop/system_clock.h"
+
+namespace tombrello {
+
+/// Everything that the program asks of a desktop, made in the right order. One in a process,
+/// made before any thread is started:
+///
+///     int main(int argc, char** argv) {
+///       Desktop desktop(argc, argv);
+///       Game game(desktop.window(), desktop.timer(), desktop.archive(), desktop.clock());
+///       return game.run();
+///     }
+///
+/// Where no screen can be reached, the constructor says so in one line on standard error and
+/// ends the process with status 1.
+class Desktop {
+ public:
+  Desktop(int& argc, char** argv);
+
+  Window& window() { return window_; }
+  Timer& timer() { return timer_; }
+  Archive& archive() { return archive_; }
+  Clock& clock() { return clock_; }
+  WindowEvents& events() { return window_.events(); }
+
+ private:
+  /// Qt ends a process without a screen by a core dump; this one goes quietly.
+  class Application : public QApplication {
+   public:
+    Application(int& argc, char** argv);
+  };
+
+  StopSignal stop_signal_;
+  QtMessageHandler messages_;
+  Application application_;
+  DesktopWindow window_;
+  DesktopTimer timer_;
+  DiskArchive archive_;
+  SystemClock clock_;
+};
+
+}  // namespace tombrello

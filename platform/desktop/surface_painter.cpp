@@ -1,0 +1,142 @@
+#include "platform/desktop/surface_painter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "platform/desktop/text_style.h"
+
+namespace tombrello {
+namespace {
+
+Look look_of(const PictureItem& item, QSize size) {
+  return {item.picture, item.mirrored_x, item.mirrored_y, size};
+}
+
+// An outline is as thick as a unit, and never thinner than a pixel.
+QRegion frame(const QRect& box, double scale) {
+  const int line = std::max(1, qRound(scale));
+  return QRegion(box) - QRegion(box.adjusted(line, line, -line, -line));
+}
+
+/// Walks the items from the top down and hands each pixel to those that show there, so that
+/// nothing is painted where something opaque covers it; then paints them from the bottom up.
+class Composition {
+ public:
+  Composition(QPainter& painter, const Surface& surface, const TableGeometry& geometry,
+              PictureCache& pictures, QDeadlineTimer patience)
+      : painter_(painter),
+        surface_(surface),
+        geometry_(geometry),
+        pictures_(pictures),
+        patience_(patience) {}
+
+  QRegion paint(const QRegion& exposed) {
+    const QRegion uncovered = look_down(exposed);
+    const QColor background = to_qcolor(surface_.background());
+    for (const QRect& part : uncovered) painter_.fillRect(part, background);
+    std::for_each(layers_.rbegin(), layers_.rend(), [&](const Layer& layer) {
+      std::visit([&](const auto& item) { paint(item, layer); }, *layer.item);
+    });
+    return drafts_;
+  }
+
+ private:
+  struct Layer {
+    const Item* item;
+    QRect place;
+    QRegion visible;
+    const PictureCache::Rendered* picture = nullptr;
+  };
+
+  // Answers where the background shows.
+  QRegion look_down(const QRegion& exposed) {
+    QRegion open = exposed;
+    const auto& items = surface_.items();
+    for (auto item = items.rbegin(); item != items.rend() && !open.isEmpty(); ++item) {
+      Layer layer{&*item, pixels_of(*item, geometry_), {}};
+      const QRect on_table = layer.place & geometry_.table() & open.boundingRect();
+      if (on_table.isEmpty()) continue;
+      layer.visible = open & on_table;
+      if (layer.visible.isEmpty()) continue;
+      open -= std::visit([&](const auto& kind) { return opaque_part(kind, layer); }, *item);
+      layers_.push_back(std::move(layer));
+    }
+    return open;
+  }
+
+  QRegion opaque_part(const BoxItem& item, Layer& layer) {
+    if (!item.filled) layer.visible &= frame(layer.place, geometry_.scale());
+    return layer.visible;
+  }
+  QRegion opaque_part(const TextItem&, Layer&) { return {}; }
+  QRegion opaque_part(const PictureItem& item, Layer& layer) {
+    const Look look = look_of(item, layer.place.size());
+    layer.picture = pictures_.find(look);
+    if (layer.picture == nullptr && patience_.hasExpired()) {
+      layer.picture = pictures_.stand_in(look);
+      if (layer.picture != nullptr) {
+        drafts_ += layer.visible;
+        return {};
+      }
+    }
+    if (layer.picture == nullptr) layer.picture = &pictures_.rendered(look);
+    return layer.visible & layer.picture->opaque.translated(layer.place.topLeft());
+  }
+
+  void paint(const BoxItem& item, const Layer& layer) {
+    const QColor colour = to_qcolor(item.colour);
+    for (const QRect& part : layer.visible) painter_.fillRect(part, colour);
+  }
+
+  void paint(const PictureItem&, const Layer& layer) {
+    const QImage& image = layer.picture->image;
+    if (image.size() != layer.place.size()) {
+      painter_.setClipRegion(layer.visible);
+      painter_.drawImage(layer.place, image);
+      painter_.setClipping(false);
+      return;
+    }
+    for (const QRect& part : layer.visible) {
+      painter_.drawImage(part.topLeft(), image, part.translated(-layer.place.topLeft()));
+    }
+  }
+
+  void paint(const TextItem& item, const Layer& layer) {
+    const bool cut = layer.visible != QRegion(layer.place);
+    if (cut) painter_.setClipRegion(layer.visible);
+    painter_.setFont(table_font(item.font, geometry_));
+    painter_.setPen(to_qcolor(item.colour));
+    painter_.drawText(text_place(item, geometry_).baseline, QString::fromStdString(item.text));
+    if (cut) painter_.setClipping(false);
+  }
+
+  QPainter& painter_;
+  const Surface& surface_;
+  const TableGeometry& geometry_;
+  PictureCache& pictures_;
+  QDeadlineTimer patience_;
+  std::vector<Layer> layers_;
+  QRegion drafts_;
+};
+
+}  // namespace
+
+QColor to_qcolor(Colour colour) {
+  return QColor::fromRgb(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
+}
+
+QRect pixels_of(const Item& item, const TableGeometry& geometry) {
+  if (const auto* box = std::get_if<BoxItem>(&item)) return geometry.pixels(box->area);
+  if (const auto* picture = std::get_if<PictureItem>(&item)) {
+    return geometry.picture_pixels(picture->area);
+  }
+  return text_place(std::get<TextItem>(item), geometry).pixels;
+}
+
+QRegion paint_surface(QPainter& painter, const Surface& surface, const TableGeometry& geometry,
+                      const QRegion& exposed, PictureCache& pictures, QDeadlineTimer patience) {
+  return Composition(painter, surface, geometry, pictures, patience).paint(exposed);
+}
+
+}  // namespace tombrello
