@@ -41,7 +41,6 @@ void Deck::daicarte() {
   turn_up_first_card();
   out_.table.pile_shows(s_.pozzo[0]);
   out_.table.stock_shows(back_number(s_.mazzo[kFirstStock]));
-  out_.table.deal_over();
   out_.wait.ritardo(0.01F);
 }
 

@@ -30,7 +30,6 @@ class Table {
   virtual void stock_empty() = 0;
 
   virtual void card_dealt(int seat, int k, int card) = 0;  ///< k-th card, 1..13, of a fan
-  virtual void deal_over() = 0;
   virtual void card_drawn(int card) = 0;             ///< face at seat 1's next place
   virtual void card_landed(int seat, int card) = 0;  ///< back beside a computer hand
 

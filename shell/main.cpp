@@ -1,1 +1,10 @@
-int main() { return 0; }
+#include "platform/desktop/desktop.h"
+#include "shell/program.h"
+
+int main(int argc, char** argv) {
+  tombrello::Desktop desktop(argc, argv);
+  tombrello::Program program(
+      {desktop.window(), desktop.timer(), desktop.archive(), desktop.clock()});
+  program.run();
+  return 0;
+}

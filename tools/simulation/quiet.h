@@ -24,7 +24,6 @@ class QuietTable : public Table {
   void stock_shows(int) override {}
   void stock_empty() override {}
   void card_dealt(int, int, int) override {}
-  void deal_over() override {}
   void card_drawn(int) override {}
   void card_landed(int, int) override {}
   void dealer_screen() override {}

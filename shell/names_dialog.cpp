@@ -1,0 +1,95 @@
+#include "shell/names_dialog.h"
+
+namespace tombrello {
+namespace {
+
+constexpr float kWidth = 158;
+constexpr float kHeadingBottom = 30;
+constexpr float kBottom = 130;
+constexpr float kFieldX = 75;
+constexpr float kFieldTop = 32;
+constexpr float kFieldWidth = 60;
+constexpr float kFieldHeight = 14.8F;
+constexpr float kShapeTop = 115;
+constexpr float kShapeHeight = 9.9F;
+constexpr Colour kShape0Colour = 32896;
+constexpr Colour kShape1Colour = 49344;
+
+constexpr Area kConfirmButton = {kFieldX, kShapeTop, kFieldX + kFieldWidth,
+                                 kShapeTop + kShapeHeight};
+
+float field_top(int index) {
+  return kFieldTop + static_cast<float>(index - 1) * kFieldHeight;
+}
+
+std::string label(int index) {
+  return index == 1 ? "Player1 (you)" : "Player" + std::to_string(index);
+}
+
+}  // namespace
+
+void NamesDialog::create() {
+  for (int i = 1; i <= kSeats; ++i) {
+    window_.add_field(TxtPlayer_0 + i, kMostNameCharacters, {"MS Sans Serif", 7.8F});
+  }
+  window_.add_shape(Shape1_0, kShape0Colour);
+  window_.add_shape(Shape1_1, kShape1Colour);
+}
+
+void NamesDialog::personalize_players_Click() {
+  Surface& surface = window_.surface();
+  surface.filled_box(0, 0, kWidth, kHeadingBottom, kPaleYellow);
+  surface.set_font_size(8);
+  surface.set_text_colour(kBlack);
+  surface.set_text_position(5, 5);
+  surface.print("  Personalize Players");
+  surface.open_box(0, kHeadingBottom, kWidth, kBottom, kYellow);
+  surface.set_font_size(8);
+  surface.set_text_colour(kWhite);
+  for (int i = 1; i <= kSeats; ++i) {
+    const ControlId field = TxtPlayer_0 + i;
+    const float top = field_top(i);
+    window_.place(field, {kFieldX, top, kFieldX + kFieldWidth, top + kFieldHeight});
+    window_.set_visible(field, true);
+    surface.set_text_position(5, top + 1);
+    window_.set_text(field, s_.nomi[static_cast<std::size_t>(i - 1)]);
+    surface.print(label(i));
+  }
+  for (const ControlId shape : {Shape1_0, Shape1_1}) {
+    window_.place(shape, kConfirmButton);
+    window_.set_visible(shape, true);
+  }
+  window_.bring_to_front(Shape1_0);
+}
+
+void NamesDialog::TxtPlayer_Change(int index, const std::string& upper_case) {
+  if (is_storable_name(upper_case)) s_.nomi[static_cast<std::size_t>(index - 1)] = upper_case;
+}
+
+bool NamesDialog::is_on_confirm_button(float x, float y) const {
+  return kConfirmButton.left < x && x < kConfirmButton.right && kConfirmButton.top < y &&
+         y < kConfirmButton.bottom;
+}
+
+void NamesDialog::confirm() {
+  settings_.Registra_Players();
+  s_.azione = kNamesConfirmed;
+  hide();
+  window_.surface().clear();
+}
+
+void NamesDialog::close_if_open() {
+  if (!is_open()) return;
+  settings_.Registra_Players();
+  hide();
+  // What the dialog printed goes; nothing else stands in this corner.
+  window_.surface().filled_box(0, 0, kWidth, kBottom, window_.surface().background());
+}
+
+void NamesDialog::hide() {
+  for (int i = 1; i <= kSeats; ++i) window_.set_visible(TxtPlayer_0 + i, false);
+  window_.set_visible(Shape1_0, false);
+  window_.set_visible(Shape1_1, false);
+}
+
+}  // namespace tombrello

@@ -1,0 +1,151 @@
+#include <algorithm>
+#include <string>
+
+#include "table/painted_table.h"
+
+namespace tombrello {
+namespace {
+
+constexpr int kPanelHalfWidth = 200;
+constexpr int kPanelStep = 3;
+constexpr int kPanelStepShown = 6;  // milliseconds; the whole within half a second
+constexpr float kTitleX = 500;      // right of seat 3's place
+
+// Length in bytes of the UTF-8 character at the start of a text that isn't empty.
+std::size_t first_character(const std::string& text, std::size_t at) {
+  std::size_t end = at + 1;
+  while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) ++end;
+  return end - at;
+}
+
+}  // namespace
+
+void PaintedTable::Posiziona_Players() {
+  surface_.set_font_size(8);
+  for (const int seat : {1, 3, 2, 4}) {
+    const bool on_turn = s_.di_turno == seat && s_.azione != kDealerDraw;
+    surface_.set_text_colour(on_turn ? kWhite : kGreen);
+    print_name(seat);
+  }
+}
+
+void PaintedTable::print_name(int seat) {
+  const std::string& name = s_.nomi[static_cast<std::size_t>(seat - 1)];
+  const float x = m_.mezza_larghezza - m_.larghezza_carta / 2;
+  switch (seat) {
+    case 1:
+      surface_.set_text_position(x, 2 * m_.mezza_altezza - 1.2F * m_.altezza_carta - 22);
+      surface_.print(name);
+      break;
+    case 3:
+      surface_.set_text_position(x, m_.altezza_carta + 30);
+      surface_.print(name);
+      break;
+    case 2:
+      print_name_downward(name, m_.altezza_carta + 30);
+      break;
+    default:
+      print_name_downward(name, 2 * m_.mezza_larghezza - m_.altezza_carta - 38);
+      break;
+  }
+}
+
+void PaintedTable::print_name_downward(const std::string& name, float x) {
+  int i = 1;
+  for (std::size_t at = 0; at < name.size(); ++i) {
+    const std::size_t length = first_character(name, at);
+    const float pitch = surface_.font_size() + 10;
+    surface_.set_text_position(x, m_.mezza_altezza - 50 + pitch * static_cast<float>(i));
+    surface_.print(name.substr(at, length));
+    at += length;
+  }
+}
+
+void PaintedTable::dealer_screen() {
+  surface_.set_background(kFelt);
+  surface_.set_font_name("Brush Script MT");
+  surface_.set_font_size(24);
+  surface_.set_text_colour(kWhite);
+  surface_.set_text_position(kTitleX, 20);
+  surface_.print("Tombrello");
+  surface_.set_font_name("Arial");  // from here on the font of every text on the table
+  surface_.set_font_size(8);
+  surface_.set_text_x(kTitleX);
+  surface_.print("by Frassivo");
+  Posiziona_Players();
+  surface_.set_font_size(9);
+  surface_.set_text_colour(kWhite);
+  surface_.set_text_position(5, 5);
+  surface_.print("Scelta cartaro - Clicca sul mazzo");
+}
+
+void PaintedTable::reshuffle_message() {
+  surface_.set_text_position(m_.mezza_larghezza - 50, m_.mezza_altezza + 90);
+  surface_.print("Rimescolo le carte del Pozzo");
+}
+
+void PaintedTable::reshuffle_begins() {
+  pile_empty();
+  paint_upright({PictureSet::dorsov, 0}, m_.mezza_larghezza + 2 * m_.larghezza_carta,
+                m_.tavolo_y());
+}
+
+void PaintedTable::reshuffle_ends() {
+  const float x = m_.mezza_larghezza + 2 * m_.larghezza_carta;
+  erase(x, m_.tavolo_y(), x + m_.larghezza_carta, m_.tavolo_y() + m_.altezza_carta);
+  erase(m_.mezza_larghezza - 50, m_.mezza_altezza + 90, m_.mezza_larghezza + 100,
+        m_.mezza_altezza + 100);
+  for (int seat = 1; seat <= kSeats; ++seat) paint_strip(seat);
+}
+
+void PaintedTable::panel_line() {
+  surface_.filled_box(m_.mezza_larghezza, m_.mezza_altezza - 130, m_.mezza_larghezza + 1,
+                      m_.mezza_altezza + 110, kGreen);
+}
+
+void PaintedTable::panel_opens() {
+  const float x = m_.mezza_larghezza;
+  const float top = m_.mezza_altezza - 130;
+  const float bottom = m_.mezza_altezza + 110;
+  erase(x - 10, top, x + 10, top + 10);
+  for (int k = 1; k <= kPanelHalfWidth; k += kPanelStep) {
+    surface_.filled_box(x, top, x - static_cast<float>(k), bottom, kGreen);
+    surface_.filled_box(x, top, x + static_cast<float>(k), bottom, kGreen);
+    window_.show_now(kPanelStepShown);
+  }
+}
+
+void PaintedTable::repaint_score() {
+  repaint_hand();
+  scopro_carte();
+  surface_.filled_box(m_.mezza_larghezza - kPanelHalfWidth, m_.mezza_altezza - 130,
+                      m_.mezza_larghezza + kPanelHalfWidth, m_.mezza_altezza + 110, kGreen);
+  scoreboard();
+}
+
+void PaintedTable::scoreboard() {
+  surface_.set_text_position(0, m_.mezza_altezza - 125);
+  surface_.set_text_colour(kBlue);
+  print_score_line("Game    " + s_.squadre[0], s_.squadre[1]);
+  surface_.set_text_colour(kWhite);
+  for (int hand = std::max(1, s_.numero_mano - kLastRow + 1); hand <= s_.numero_mano; ++hand) {
+    // The latest hands stand in the last rows, however many hands were played.
+    const int row = std::min(int{s_.numero_mano}, kLastRow) - (s_.numero_mano - hand);
+    const auto& points = s_.punti_mano[static_cast<std::size_t>(row)];
+    print_score_line(std::to_string(hand) + "    " + std::to_string(points[1]),
+                     std::to_string(points[2]));
+  }
+  surface_.set_text_colour(kBlack);
+  print_score_line("      " + std::to_string(s_.punti_totali[1]),
+                   std::to_string(s_.punti_totali[2]));
+  surface_.set_text_colour(kWhite);
+}
+
+void PaintedTable::print_score_line(const std::string& left, const std::string& right) {
+  surface_.set_text_x(m_.mezza_larghezza - 180);
+  surface_.print_staying(left);
+  surface_.set_text_x(m_.mezza_larghezza + 90);
+  surface_.print(right);
+}
+
+}  // namespace tombrello
