@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/drawing.h"
+#include "table/pictures/suits.h"
+
+namespace tombrello {
+
+/// Size of a face in the units of its drawing, told in pixels.
+inline constexpr float kCardWidth = 96;
+inline constexpr float kCardHeight = 153;
+
+/// The white card with its edge, as every face and back begins.
+Drawing blank_card(float height);
+
+/// A face with indices in its four corners; rank 1 (Ace) to 13 (King).
+Drawing draw_face(Suit suit, int rank);
+
+/// The two figures of a court card, double-ended; rank 11 to 13. Stays clear of the indices.
+void add_court(Drawing& face, Suit suit, int rank);
+
+/// The first (0) and second (1) pack's back.
+Drawing draw_back(int pack);
+
+/// The opening picture.
+Drawing draw_opening();
+
+}  // namespace tombrello
