@@ -5,7 +5,7 @@
 namespace tombrello {
 
 /// Numbers of the menu entries. Entries with an index form groups that count up from their first.
-enum Entry : EntryId {
+enum MenuEntry : EntryId {
   menu_game = 1,
   menu_replay,
   menu_continue,
@@ -29,7 +29,7 @@ enum Entry : EntryId {
 };
 
 /// Numbers of the overlay controls.
-enum Control : ControlId {
+enum OverlayControl : ControlId {
   quadro = 1,
   TxtHelp,
   TxtItaliano,
