@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that playing or checking needs, if any are missing.
+# Usage: tools/setup.sh play|check
+set -euo pipefail
+
+packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
+          fonts-liberation fonts-urw-base35 timgm6mb-soundfont)
+if [ "${1:-}" = check ]; then
+  packages+=(libgtest-dev libbenchmark-dev clang-format xvfb openbox xdotool imagemagick
+             x11-utils xclip fluidsynth)
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+  dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
+    missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || {
+    echo "Missing packages: ${missing[*]}. Install them as root, or install sudo." >&2
+    exit 1
+  }
+  as_root=(sudo)
+fi
+echo "Installing with apt: ${missing[*]}"
+"${as_root[@]}" apt-get -q update >/dev/null
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+  apt-get -q install -y --no-install-recommends "${missing[@]}" >/dev/null </dev/null
