@@ -2,11 +2,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBackingStore>
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 #include <QtMath>
@@ -63,20 +63,15 @@ class WindowTest : public testing::Test {
     QKeyEvent event(QEvent::KeyPress, code, with, text);
     QApplication::sendEvent(&widget, &event);
   }
-  /// What stands on the screen where the table is.
+  /// What stands in the window where the table is, as it was painted bit by bit.
   QImage on_screen() {
     QWidget& table = window_.table();
     const double ratio = table.devicePixelRatioF();
-    const QSize size = window_.frame().size() * ratio;
-    const QImage all = window_.frame()
-                           .screen()
-                           ->grabWindow(window_.frame().winId(), 0, 0, size.width(), size.height())
-                           .toImage();
+    const auto& all = dynamic_cast<QImage&>(*window_.frame().backingStore()->paintDevice());
     const QPointF corner = QPointF(table.mapTo(&window_.frame(), QPoint(0, 0))) * ratio;
-    QImage part = all.copy(QRect(QPoint(qRound(corner.x()), qRound(corner.y())), all.size()))
-                      .convertToFormat(QImage::Format_RGB32);
+    QImage part = all.copy(QRect(QPoint(qRound(corner.x()), qRound(corner.y())), all.size()));
     part.setDevicePixelRatio(1);
-    return part;
+    return part.convertToFormat(QImage::Format_RGB32);
   }
   QImage wanted() {
     QImage image(QSize(4000, 3000), QImage::Format_RGB32);
