@@ -26,15 +26,17 @@ bool opaque(const QImage& image, const QRect& part) {
   return true;
 }
 
-// Everything but four corner squares, whose size is looked for. A picture that has more holes
-// than rounded corners counts as see-through.
+// A cross: everything but four corner squares and perhaps a rim of one half-covered pixel. The
+// corners' size is looked for; a picture with other holes counts as see-through.
 QRegion opaque_part(const QImage& image) {
-  const QRect all = image.rect();
-  const int most = std::min(all.width(), all.height()) / 4;
-  for (int corner = 0; corner <= most; ++corner) {
-    const QRect upright = all.adjusted(corner, 0, -corner, 0);
-    const QRect lying = all.adjusted(0, corner, 0, -corner);
-    if (opaque(image, upright) && opaque(image, lying)) return QRegion(upright) + lying;
+  for (const int rim : {0, 1}) {
+    const QRect core = image.rect().adjusted(rim, rim, -rim, -rim);
+    const int most = std::min(core.width(), core.height()) / 4;
+    for (int corner = 0; corner <= most; ++corner) {
+      const QRect upright = core.adjusted(corner, 0, -corner, 0);
+      const QRect lying = core.adjusted(0, corner, 0, -corner);
+      if (opaque(image, upright) && opaque(image, lying)) return QRegion(upright) + lying;
+    }
   }
   return {};
 }

@@ -19,6 +19,21 @@ QRegion frame(const QRect& box, double scale) {
   return QRegion(box) - QRegion(box.adjusted(line, line, -line, -line));
 }
 
+// setClipping(false) would make the raster engine ignore the next region of several rectangles.
+class ClipTo {
+ public:
+  ClipTo(QPainter& painter, const QRegion& region) : painter_(painter) {
+    painter_.save();
+    painter_.setClipRegion(region);
+  }
+  ~ClipTo() { painter_.restore(); }
+  ClipTo(const ClipTo&) = delete;
+  ClipTo& operator=(const ClipTo&) = delete;
+
+ private:
+  QPainter& painter_;
+};
+
 /// Walks the items from the top down and hands each pixel to those that show there, so that
 /// nothing is painted where something opaque covers it; then paints them from the bottom up.
 class Composition {
@@ -92,9 +107,8 @@ class Composition {
   void paint(const PictureItem&, const Layer& layer) {
     const QImage& image = layer.picture->image;
     if (image.size() != layer.place.size()) {
-      painter_.setClipRegion(layer.visible);
+      const ClipTo clip(painter_, layer.visible);
       painter_.drawImage(layer.place, image);
-      painter_.setClipping(false);
       return;
     }
     for (const QRect& part : layer.visible) {
@@ -103,12 +117,10 @@ class Composition {
   }
 
   void paint(const TextItem& item, const Layer& layer) {
-    const bool cut = layer.visible != QRegion(layer.place);
-    if (cut) painter_.setClipRegion(layer.visible);
+    const ClipTo clip(painter_, layer.visible);
     painter_.setFont(table_font(item.font, geometry_));
     painter_.setPen(to_qcolor(item.colour));
     painter_.drawText(text_place(item, geometry_).baseline, QString::fromStdString(item.text));
-    if (cut) painter_.setClipping(false);
   }
 
   QPainter& painter_;
