@@ -1,28 +1,56 @@
+#include "table/pictures/court_parts.h"
 #include "table/pictures/faces.h"
-#include "table/pictures/outline.h"
 
 namespace tombrello {
+namespace {
+
+using namespace court;
+
+Figure half_of(Suit suit, int rank) {
+  Figure figure;
+  if (rank == 13) {
+    add_king(figure, suit);
+  } else if (rank == 12) {
+    add_queen(figure, suit);
+  } else {
+    add_jack(figure, suit);
+  }
+  figure.at = {};
+  figure.plain(suit_outline(suit, {28, 19.5F}, 13), suit_colour(suit));
+  return figure;
+}
+
+// The belt that hides the seam; symmetric by itself.
+void add_sash(Drawing& face, Suit suit) {
+  const float slope = (kSeamRight - kSeamLeft) / (kRight - kLeft);
+  const auto band = [&](float half) {
+    return polygon({{kLeft, kSeamLeft - half},
+                    {kRight, kSeamRight - half},
+                    {kRight, kSeamRight + half},
+                    {kLeft, kSeamLeft + half}});
+  };
+  inked(face, band(4.2F), kGold, 0.75F, kInk);
+  inked(face, band(2.7F), suit_colour(suit), 0.5F, kInk);
+  Path studs;
+  for (int i = -3; i <= 3; ++i) {
+    const float x = static_cast<float>(i) * 8;
+    const Point middle{kCardWidth / 2 + x, kCardHeight / 2 + x * slope};
+    join(studs, moved(polygon({{0, -1.7F}, {2.2F, 0}, {0, 1.7F}, {-2.2F, 0}}),
+                      shift(middle.x, middle.y) * turning(-11)));
+  }
+  fill(face, studs, kGold);
+}
+
+}  // namespace
 
 void add_court(Drawing& face, Suit suit, int rank) {
-  const Rgba ink{24, 26, 48, 255};
-  const Rgba gold{240, 184, 52, 255};
-  Drawing half{kCardWidth, kCardHeight, {}};
-  inked(half, outline("M20 76.5 L20 66 C24 58 34 54 48 52 C62 54 72 58 76 66 L76 76.5 Z"),
-        suit_colour(suit), 0.8F, ink);
-  inked(half, ellipse({48, 37}, 9, 12), {250, 220, 190, 255}, 0.8F, ink);
-  if (rank > 11) {
-    inked(half, outline("M37 28 L36 14 L42 21 L48 12 L54 21 L60 14 L59 28 Z"), gold, 0.8F, ink);
-  } else {
-    inked(half, outline("M36 28 C36 14 60 14 60 28 Z"), suit_colour(suit), 0.8F, ink);
-  }
-  fill(half, circle({44.5F, 36}, 1.2F), ink);
-  fill(half, circle({51.5F, 36}, 1.2F), ink);
-  line(half, outline("M44 43 Q48 45.5 52 43"), 1, {180, 40, 40, 255});
-  if (rank == 13) fill(half, outline("M40 42 Q48 64 56 42 Q48 47 40 42 Z"), {90, 60, 40, 255});
-  fill(half, suit_outline(suit, {27, 22}, 11), suit_colour(suit));
-  append(face, half, {});
-  append(face, half, half_turn(kCardWidth, kCardHeight));
-  line(face, rounded_box(20, 11, 76, 142, 1), 0.9F, ink);
+  fill(face, rounded_box(kLeft, kTop, kRight, kBottom, 1), kGround);
+  const Figure figure = half_of(suit, rank);
+  append(face, figure.drawing(), {});
+  append(face, figure.drawing(), half_turn(kCardWidth, kCardHeight));
+  add_sash(face, suit);
+  line(face, rounded_box(kLeft, kTop, kRight, kBottom, 1), 1.5F, kInk);
+  line(face, rounded_box(kLeft, kTop, kRight, kBottom, 1), 0.6F, kGold);
 }
 
 }  // namespace tombrello

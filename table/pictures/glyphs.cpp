@@ -1,5 +1,6 @@
 #include "table/pictures/glyphs.h"
 
+#include <algorithm>
 #include <array>
 
 #include "table/pictures/outline.h"
@@ -123,8 +124,10 @@ const Glyph& display_glyph(char letter) {
 
 Path index_outline(int rank, float middle, float top, float height) {
   const Glyph& glyph = kIndices.at(static_cast<std::size_t>(rank - 1));
+  constexpr float kWidest = 67;
   const float scale = height / 100;
-  Affine place = shift(middle - glyph.width * scale / 2, top) * scaling(scale, scale);
+  const float width = std::min(glyph.width, kWidest) * scale;
+  Affine place = shift(middle - width / 2, top) * scaling(width / glyph.width, scale);
   if (rank == 9) place = place * half_turn(glyph.width, 100);
   return moved(outline(glyph.path), place);
 }

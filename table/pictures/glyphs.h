@@ -10,10 +10,10 @@ namespace tombrello {
 /// between left and right at `middle`, from `top` down. Fills even-odd.
 Path index_outline(int rank, float middle, float top, float height);
 
-/// A line of fat-faced display letters on the baseline y 0, starting at x 0; `height` is that of
-/// the capitals. Knows the letters of the game's two names. Fills even-odd.
-Path display_outline(std::string_view text, float height, float spacing);
+/// Fat-faced display letters on the baseline y 0, starting at x 0; `height` is that of the
+/// capitals. Knows the letters of the game's two names. Fills even-odd.
+Path display_outline(std::string_view text, float height, float spacing = 0);
 /// The width of that line.
-float display_width(std::string_view text, float height, float spacing);
+float display_width(std::string_view text, float height, float spacing = 0);
 
 }  // namespace tombrello

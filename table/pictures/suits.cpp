@@ -17,12 +17,12 @@ Path diamond() {
 }
 
 Path club() {
-  Path path = outline("M-5 -8 L5 -8 C3 24 8 40 20 50 L-20 50 C-8 40 -3 24 -5 -8 Z");
-  join(path, circle({0, -26}, 24));
-  join(path, circle({-25, 10}, 24));
-  join(path, circle({25, 10}, 24));
-  join(path, circle({0, -2}, 12));
-  return path;
+  return outline(
+      "M-20.6 -13.6 C-22.8 -17.2 -24 -21.4 -24 -26 C-24 -39.3 -13.3 -50 0 -50 "
+      "C13.3 -50 24 -39.3 24 -26 C24 -21.4 22.8 -17.2 20.6 -13.6 C22 -13.9 23.5 -14 25 -14 "
+      "C38.3 -14 49 -3.3 49 10 C49 23.3 38.3 34 25 34 C16.4 34 8.8 29.4 4.6 22.6 "
+      "C5.6 36 10 46 20 50 L-20 50 C-10 46 -5.6 36 -4.6 22.6 C-8.8 29.4 -16.4 34 -25 34 "
+      "C-38.3 34 -49 23.3 -49 10 C-49 -3.3 -38.3 -14 -25 -14 C-23.5 -14 -22 -13.9 -20.6 -13.6 Z");
 }
 
 Path spade() {
@@ -51,9 +51,9 @@ Path unit_outline(Suit suit) {
 Rgba suit_colour(Suit suit) {
   switch (suit) {
     case Suit::hearts:
-      return {190, 8, 44, 255};
+      return {180, 0, 46, 255};
     case Suit::diamonds:
-      return {232, 74, 20, 255};
+      return {230, 64, 20, 255};
     case Suit::clubs:
       return {0, 84, 104, 255};
     case Suit::spades:
