@@ -29,7 +29,6 @@ class Desktop {
   Timer& timer() { return timer_; }
   Archive& archive() { return archive_; }
   Clock& clock() { return clock_; }
-  WindowEvents& events() { return window_.events(); }
 
  private:
   /// Qt ends a process without a screen by a core dump; this one goes quietly.
