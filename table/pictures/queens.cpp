@@ -26,10 +26,7 @@ void add_gown(Figure& f, Rgba gown, Rgba front, Rgba trim) {
 void add_puffs(Figure& f, Rgba cloth, Rgba slashes) {
   f.inked("M37 57 C28 57 21.6 62 21 70 C25 75 34 74.6 38 70.4 C40 66 39.6 60 37 57 Z", cloth);
   f.inked("M63 57 C70 57.6 75 61 75.6 67 C72 71.4 65 71.6 61.6 68.6 C60 65 60.4 60 63 57 Z", cloth);
-  f.plain(
-      "M35 59 Q28 62 25 70 L28 72 Q29.6 64 36 60 Z M37 61 Q33 66 33 72.4 L36 71.4 "
-      "Q36 66 38 62 Z M65 59 Q70 62 72.4 68.6 L70 69.8 Q68.6 64 64.4 60.4 Z",
-      slashes);
+  f.plain("M65 59 Q70 62 72.4 68.6 L70 69.8 Q68.6 64 64.4 60.4 Z", slashes);
 }
 
 void add_pearls(Figure& f, Rgba colour) {
@@ -249,7 +246,6 @@ void add_queen_of_spades(Figure& f) {
   f.at = {};
   f.inked("M22 80 C24 68 32 60 40 57 L57 57 C66 59 71 64 73.6 71.6 Z", {56, 46, 84, 255});
   f.inked("M41 62 L55 62 L58 75.4 L40 79 Z", kCrimson);
-  f.line("M43 66 L55.6 64.6 M42.4 70.4 L56.4 68.6 M41.6 74.6 L57 72", 0.9F, kGold);
   f.line("M40 60 C37 66 37 72 38 79.6 M58 60 C61 65 61.4 70 60.6 75", 1.1F, kGold);
   f.sprinkle(outline("M0 -2 L0.6 -0.6 L2 0 L0.6 0.6 L0 2 L-0.6 0.6 L-2 0 L-0.6 -0.6 Z"),
              {{29, 73}, {34, 67}, {33, 76}, {66, 67}}, kGold);
