@@ -6,7 +6,6 @@
 namespace tombrello {
 namespace {
 
-constexpr Rgba kPaper{255, 253, 247, 255};
 constexpr Rgba kWhite{255, 255, 255, 255};
 constexpr Rgba kNavy{20, 36, 96, 255};
 constexpr Rgba kBlue{64, 96, 176, 255};
@@ -179,7 +178,8 @@ void add_sun(Drawing& back, Point m) {
 
 // The white border, laid over the fans' ends.
 void add_border(Drawing& back, float inset) {
-  Path border = rounded_box(1, 1, kCardWidth - 1, back.height - 1, 5.6F);
+  Path border =
+      rounded_box(kEdgeWidth, kEdgeWidth, kCardWidth - kEdgeWidth, back.height - kEdgeWidth, 5.4F);
   join(border, rounded_box(inset, inset, kCardWidth - inset, back.height - inset, 3));
   fill(back, border, kPaper);
   back.shapes.back().even_odd = true;

@@ -28,7 +28,7 @@ Affine head_place(float x, float y, float tilt, float side) {
 
 void add_neck(Figure& figure) {
   figure.plain("M-3.4 8 L-4 20 L6 20 L5.4 8 Z", kSkin);
-  figure.line("M-3.4 8 C-3.4 14 -4 16 -6 18.6 M5.4 8 C5.4 14 6 16 8 18.6", 0.7F, kInk);
+  figure.line("M-3.4 8 C-3.4 13 -3.6 15 -5 17 M5.4 8 C5.4 13 5.8 15 7.2 17", 0.7F, kInk);
   figure.plain("M-3 11 Q1 17 5.2 10 L5.2 8 L-3 8 Z", kShade);
 }
 

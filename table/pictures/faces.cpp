@@ -8,14 +8,13 @@
 namespace tombrello {
 namespace {
 
-constexpr Rgba kPaper{255, 253, 247, 255};
 constexpr Rgba kEdge{104, 98, 86, 255};
 
 // The index fills the outer fifth of the card's width: all that a strip of melds shows.
-constexpr float kIndexMiddle = 10.4F;
+constexpr float kIndexMiddle = 10.3F;
 constexpr float kIndexTop = 6;
 constexpr float kIndexHeight = 22;
-constexpr float kIndexSuitMiddle = 37.5F;
+constexpr float kIndexSuitMiddle = 38;
 constexpr float kIndexSuitSize = 15;
 
 void add_indices(Drawing& face, Suit suit, int rank) {
@@ -94,7 +93,7 @@ void add_ornament(Drawing& face, Point middle, float size) {
   const Path inner = suit_outline(Suit::spades, {middle.x, middle.y - 1}, size * 0.86F);
   line(face, inner, 0.6F, kPaper);
   for (const Affine& side : {right, left}) {
-    inked(face, moved(outline(kBranch), side * shift(0, 4)), kGold, 0.5F,
+    inked(face, moved(outline(kBranch), side * shift(0, 9) * scaling(0.82F, 0.9F)), kGold, 0.5F,
           suit_colour(Suit::spades));
     face.shapes.back().even_odd = true;
   }
@@ -112,7 +111,10 @@ void add_ace(Drawing& face, Suit suit) {
 
 Drawing blank_card(float height) {
   Drawing card{kCardWidth, height, {}};
-  inked(card, rounded_box(0.6F, 0.6F, kCardWidth - 0.6F, height - 0.6F, 6), kPaper, 1.2F, kEdge);
+  fill(card, rounded_box(0, 0, kCardWidth, height, 6.6F), kEdge);
+  fill(card,
+       rounded_box(kEdgeWidth, kEdgeWidth, kCardWidth - kEdgeWidth, height - kEdgeWidth, 5.4F),
+       kPaper);
   return card;
 }
 

@@ -9,6 +9,10 @@ namespace tombrello {
 inline constexpr float kCardWidth = 96;
 inline constexpr float kCardHeight = 153;
 
+/// The thin line around a card that keeps it apart from the one below.
+inline constexpr float kEdgeWidth = 1.2F;
+inline constexpr Rgba kPaper{255, 253, 247, 255};
+
 /// The white card with its edge, as every face and back begins.
 Drawing blank_card(float height);
 

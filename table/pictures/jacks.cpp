@@ -82,6 +82,24 @@ void add_pennon(Figure& f) {
   f.plain(suit_outline(Suit::diamonds, {70, 26.8F}, 6), kGold);
 }
 
+void add_brimmed_hat(Figure& f) {
+  f.inked("M-8.6 -9 C-10 -18 -5 -22 1 -21.6 C8 -21 10 -16 9 -9 Z", kVermilion);
+  f.inked(
+      "M-15 -9.6 C-13 -14.4 -6 -13.4 0 -12.4 C6 -13.4 11.6 -14.6 13.6 -11 C11 -6.6 5 -7 0 -7.4 "
+      "C-6 -6.8 -12 -5.8 -15 -9.6 Z",
+      kTeal);
+  add_feather(f, shift(5, -12.4F) * scaling(-0.84F, 0.84F) * turning(6), kGold);
+  f.inked(suit_outline(Suit::diamonds, {5.4F, -11.8F}, 5), kCream);
+}
+
+void add_ruff(Figure& f) {
+  f.inked(
+      "M37 57 C38 53.6 42 52.6 44 54.6 C46 53 48.4 54 49.6 56.4 C51 54 53.4 53 55.4 54.6 "
+      "C58 52.6 61.6 54 62.4 57 C60 61 57.4 60.6 56 59.4 C54 62 51 61.6 49.6 60 "
+      "C48 62 45 62 43.4 59.6 C41.4 61.4 38.6 60.4 37 57 Z",
+      kCream);
+}
+
 // Diamonds: the dashing herald, with his pennon.
 void add_jack_of_diamonds(Figure& f) {
   add_pennon(f);
@@ -99,24 +117,17 @@ void add_jack_of_diamonds(Figure& f) {
   f.line("M-10 0 Q-10.4 6 -9.4 11.6 M10.4 -2 Q11.4 5 10.6 11.4 M8.8 2 Q9.6 7 8.8 12", 0.5F, kInk);
   add_neck(f);
   add_face(f, {{84, 48, 26, 255}, {84, 58, 34, 255}});
-  f.line("M-2 6.6 C-4 6 -6 7 -8.4 6 M-1.6 6.6 C0.4 6 2.4 7 5 6", 1, {84, 48, 26, 255});
+  f.plain(
+      "M-1.9 6 C-3.6 5.6 -5.4 7.4 -8.2 5.4 C-7 8.2 -3.6 8.6 -1.9 7.2 C0 8.6 3.6 8.2 5 5.2 "
+      "C2 7.4 0 5.6 -1.9 6 Z",
+      {84, 48, 26, 255});
   f.inked(
       "M-8 -1 C-8.6 -6 -8 -9 0 -10 C8 -9 9 -6 8.6 0 C7.4 -3 7 -5 6.6 -6.6 Q0 -4.8 -6.4 -6.4 "
       "Q-7.4 -4 -8 -1 Z",
       kHazel);
-  f.inked("M-8.6 -9 C-10 -18 -5 -22 1 -21.6 C8 -21 10 -16 9 -9 Z", kVermilion);
-  f.inked(
-      "M-15 -9.6 C-13 -14.4 -6 -13.4 0 -12.4 C6 -13.4 11.6 -14.6 13.6 -11 C11 -6.6 5 -7 0 -7.4 "
-      "C-6 -6.8 -12 -5.8 -15 -9.6 Z",
-      kTeal);
-  add_feather(f, shift(5, -12.4F) * scaling(-0.84F, 0.84F) * turning(6), kGold);
-  f.inked(suit_outline(Suit::diamonds, {5.4F, -11.8F}, 5), kCream);
+  add_brimmed_hat(f);
   f.at = {};
-  f.inked(
-      "M37 57 C38 53.6 42 52.6 44 54.6 C46 53 48.4 54 49.6 56.4 C51 54 53.4 53 55.4 54.6 "
-      "C58 52.6 61.6 54 62.4 57 C60 61 57.4 60.6 56 59.4 C54 62 51 61.6 49.6 60 "
-      "C48 62 45 62 43.4 59.6 C41.4 61.4 38.6 60.4 37 57 Z",
-      kCream);
+  add_ruff(f);
   add_arm(f, {66, 61.4F}, 1, kVermilion, kTeal);
 }
 
@@ -131,31 +142,15 @@ void add_quiver(Figure& f) {
   f.at = {};
 }
 
-// Clubs: the archer of the woods, hooded and freckled.
-void add_jack_of_clubs(Figure& f) {
-  add_quiver(f);
+void add_bow(Figure& f) {
   f.line("M64.8 17 L66.6 73", 0.6F, kInk);
   f.inked(
       "M64 15.6 C72.6 24 76 40 73.6 58 C73 64 71.4 69 69.4 72.4 L67.8 72 C69.4 68 70.6 64 71 58 "
       "C73 42 70.6 27 63.6 17.4 Z",
       kWood);
-  add_doublet(f, kTeal, kTeal, kTeal);
-  f.inked("M39 57 L43.6 57 L62.4 70.4 L62 74 L58.4 74.8 Z", kWood);
-  f.sprinkle(circle({0, 0}, 0.8F), {{44, 60.4F}, {49, 64.6F}, {54, 68.8F}, {58.6F, 72.4F}}, kGold);
-  f.inked(
-      "M31 62 C33 56 40 53 44 52 L56 52 C60 53 66 56 68.6 61 L64 60.6 L62 65 L58 61.6 L55 66.4 "
-      "L50.6 62 L46.6 67 L43 62.4 L39.4 66.4 L36.6 62 Z",
-      kCrimson);
-  f.at = head_place(50, 38, 3, -1);
-  add_neck(f);
-  add_face(f, {{150, 62, 22, 255}, {56, 108, 62, 255}});
-  f.sprinkle(circle({0, 0}, 0.4F),
-             {{-6, 3.2F}, {-4.8F, 4.2F}, {-6, 5.4F}, {2.4F, 3.4F}, {4, 3}, {3.4F, 4.8F}},
-             {196, 116, 70, 255});
-  f.inked(
-      "M-7.8 1 C-8 -4 -7 -8 -4 -9.4 L6 -9.4 C8.4 -6 8.6 -2 8.4 3 C7.2 0 6.8 -3 6 -5.4 "
-      "C4 -4 2 -4.6 0.6 -6 C-1 -4 -3.4 -4 -5 -5.4 C-6.4 -3.6 -7.2 -1.4 -7.8 1 Z",
-      kRust);
+}
+
+void add_hood(Figure& f) {
   f.inked(
       "M-8.4 2 C-10 8 -8 14 -3 17.6 L6 17.6 C10.4 13 11 7 10 2 C9.4 -3 9 -5 8.2 -7 "
       "C9 0 8.6 8 5.6 11.6 C3 14.4 -1 14.6 -3.6 12.6 C-6 10.4 -7.8 6 -8.4 2 Z",
@@ -169,6 +164,29 @@ void add_jack_of_clubs(Figure& f) {
       "C-13.6 -2.8 -14.6 -3.4 -14.6 -4.8 Z",
       {0, 82, 88, 255});
   add_feather(f, shift(3.4F, -9.6F) * scaling(0.86F, 0.9F) * turning(-30), kCrimson);
+}
+
+// Clubs: the archer of the woods, hooded and freckled.
+void add_jack_of_clubs(Figure& f) {
+  add_quiver(f);
+  add_bow(f);
+  add_doublet(f, kTeal, kTeal, kTeal);
+  f.inked("M39 57 L43.6 57 L62.4 70.4 L62 74 L58.4 74.8 Z", kWood);
+  f.sprinkle(circle({0, 0}, 0.8F), {{44, 60.4F}, {49, 64.6F}, {54, 68.8F}, {58.6F, 72.4F}}, kGold);
+  f.inked(
+      "M31 62 C33 56 40 53 44 52 L56 52 C60 53 66 56 68.6 61 L64 60.6 L62 65 L58 61.6 L55 66.4 "
+      "L50.6 62 L46.6 67 L43 62.4 L39.4 66.4 L36.6 62 Z",
+      kCrimson);
+  f.at = head_place(50, 38, 3, -1);
+  add_face(f, {{150, 62, 22, 255}, {56, 108, 62, 255}});
+  f.sprinkle(circle({0, 0}, 0.4F),
+             {{-6, 3.2F}, {-4.8F, 4.2F}, {-6, 5.4F}, {2.4F, 3.4F}, {4, 3}, {3.4F, 4.8F}},
+             {196, 116, 70, 255});
+  f.inked(
+      "M-7.8 1 C-8 -4 -7 -8 -4 -9.4 L6 -9.4 C8.4 -6 8.6 -2 8.4 3 C7.2 0 6.8 -3 6 -5.4 "
+      "C4 -4 2 -4.6 0.6 -6 C-1 -4 -3.4 -4 -5 -5.4 C-6.4 -3.6 -7.2 -1.4 -7.8 1 Z",
+      kRust);
+  add_hood(f);
   f.at = {};
   add_arm(f, {72, 57.4F}, 1, kTeal, kGold);
 }
@@ -198,7 +216,7 @@ void add_jack_of_spades(Figure& f) {
   f.inked("M-9 -8 C-12 -2 -12 5 -11.4 9 L-5 11 L6 11 L12 9 C12.4 4 12 -4 9 -8 Z", kRaven);
   add_neck(f);
   add_face(f, {kRaven, {60, 60, 80, 255}, false, 1.1F});
-  f.plain("M-3.8 10.8 Q-1.8 9.8 0 10.8 Q0 14.6 -2.2 16 Q-4 14 -3.8 10.8 Z", kRaven);
+  f.plain("M-4 10.6 Q-2 9.8 0.4 10.6 Q0.8 13.6 -1.8 15.4 Q-4.4 13.6 -4 10.6 Z", kRaven);
   f.inked(
       "M-8.2 2 C-9 -4 -8.6 -8 0 -9.6 C8.6 -8.6 9.6 -4 9 4 L7 4 C7 0 6.8 -2 6.2 -4.6 L-6.8 -4.2 "
       "C-7.4 -2 -7.6 0 -7.6 2 Z",

@@ -50,10 +50,10 @@ void add_frame(Drawing& picture) {
 }
 
 void add_shadow(Drawing& picture, const Affine& place) {
-  for (const float spread : {5.0F, 3.4F, 1.8F, 0.4F}) {
+  for (const float spread : {6.0F, 4.6F, 3.2F, 1.8F, 0.4F}) {
     const Path blot =
         rounded_box(-spread, -spread, kCardWidth + spread, kCardHeight + spread, 6 + spread);
-    fill(picture, moved(blot, shift(0, 5) * place), Rgba{0, 10, 4, 44});
+    fill(picture, moved(blot, shift(0, 5) * place), Rgba{0, 10, 4, 36});
   }
 }
 
@@ -74,10 +74,10 @@ void add_fan(Drawing& picture) {
   add_card(picture, draw_face(Suit::spades, 13), -14.2F);
   add_card(picture, draw_face(Suit::diamonds, 11), 14.2F);
   add_card(picture, draw_face(Suit::hearts, 12), 0);
-  const Path foot = polygon({{0, 410}, {kWidth, 410}, {kWidth, kHeight}, {0, kHeight}});
+  const Path foot = polygon({{0, 424}, {kWidth, 424}, {kWidth, kHeight}, {0, kHeight}});
   fill(picture, foot,
-       gradient(Paint::Kind::linear, {0, 410}, {0, kHeight},
-                {{0, {0, 20, 8, 0}}, {1, {0, 20, 8, 150}}}));
+       gradient(Paint::Kind::linear, {0, 424}, {0, kHeight},
+                {{0, {0, 20, 8, 0}}, {1, {0, 20, 8, 110}}}));
 }
 
 // Bends a line of letters to an arch whose middle stays.

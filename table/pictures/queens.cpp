@@ -26,10 +26,7 @@ void add_gown(Figure& f, Rgba gown, Rgba front, Rgba trim) {
 void add_puffs(Figure& f, Rgba cloth, Rgba slashes) {
   f.inked("M37 57 C28 57 21.6 62 21 70 C25 75 34 74.6 38 70.4 C40 66 39.6 60 37 57 Z", cloth);
   f.inked("M63 57 C70 57.6 75 61 75.6 67 C72 71.4 65 71.6 61.6 68.6 C60 65 60.4 60 63 57 Z", cloth);
-  f.plain(
-      "M35 59 Q28 62 25 70 L28 72 Q29.6 64 36 60 Z M37 61 Q33 66 33 72.4 L36 71.4 "
-      "Q36 66 38 62 Z M65 59 Q70 62 72.4 68.6 L70 69.8 Q68.6 64 64.4 60.4 Z",
-      slashes);
+  f.plain("M65 59 Q70 62 72.4 68.6 L70 69.8 Q68.6 64 64.4 60.4 Z", slashes);
 }
 
 void add_pearls(Figure& f, Rgba colour) {
@@ -70,6 +67,19 @@ void add_rose(Figure& f) {
       0.6F, {90, 6, 26, 255});
 }
 
+void add_pearl_crown(Figure& f) {
+  f.inked(
+      "M-8.4 -10.4 C-10.6 -13 -10.8 -17 -8 -18.4 C-6 -19 -4.6 -18 -4 -16.6 "
+      "C-3.6 -19.6 -1.6 -22.4 0 -23.6 C1.6 -22.4 3.6 -19.6 4 -16.6 C4.6 -18 6 -19 8 -18.4 "
+      "C10.8 -17 10.6 -13 8.4 -10.4 Q0 -13.4 -8.4 -10.4 Z",
+      kGold);
+  f.plain(suit_outline(Suit::hearts, {0, -15.6F}, 5), kCrimson);
+  f.sprinkle(circle({0, 0}, 1), {{-6.6F, -13.4F}, {6.6F, -13.4F}}, kNavy);
+  f.sprinkle(circle({0, 0}, 0.8F),
+             {{-8.4F, -10}, {-5, -11.4F}, {-1.7F, -12}, {1.7F, -12}, {5, -11.4F}, {8.4F, -10}},
+             {255, 255, 255, 255});
+}
+
 // Hearts: golden and kind, with a rose.
 void add_queen_of_hearts(Figure& f) {
   f.at = head_place(50, 38, -3, 1);
@@ -96,19 +106,27 @@ void add_queen_of_hearts(Figure& f) {
   add_parting(f, kBlonde);
   f.line("M-1 -9.4 C-5 -10 -8 -6 -8.4 -3 M-0.6 -9.4 C4 -10 7.6 -6 8.6 -2", 0.5F,
          {170, 116, 44, 255});
-  f.inked(
-      "M-8.4 -10.4 C-10.6 -13 -10.8 -17 -8 -18.4 C-6 -19 -4.6 -18 -4 -16.6 "
-      "C-3.6 -19.6 -1.6 -22.4 0 -23.6 C1.6 -22.4 3.6 -19.6 4 -16.6 C4.6 -18 6 -19 8 -18.4 "
-      "C10.8 -17 10.6 -13 8.4 -10.4 Q0 -13.4 -8.4 -10.4 Z",
-      kGold);
-  f.plain(suit_outline(Suit::hearts, {0, -15.6F}, 5), kCrimson);
-  f.sprinkle(circle({0, 0}, 1), {{-6.6F, -13.4F}, {6.6F, -13.4F}}, kNavy);
-  f.sprinkle(circle({0, 0}, 0.8F),
-             {{-8.4F, -10}, {-5, -11.4F}, {-1.7F, -12}, {1.7F, -12}, {5, -11.4F}, {8.4F, -10}},
-             {255, 255, 255, 255});
+  add_pearl_crown(f);
   f.at = {};
   add_rose(f);
   add_arm(f, {29.6F, 62.6F}, -1, kNavy, kCream);
+}
+
+void add_netted_rolls(Figure& f) {
+  f.inked("M-6 -8 C-12 -9 -14.6 -4 -13.6 1 C-12.8 5.6 -9 6.4 -7 4 Z", kChestnut);
+  f.inked("M6 -8 C12 -9 14.6 -4 13.6 1 C12.8 5.6 9 6.4 7 4 Z", kChestnut);
+  f.line(
+      "M-8 -7 L-13.4 0 M-11.6 -7.4 L-8 4.6 M-13.6 -3 L-11 5 M-9 -1 L-11.4 5.4 "
+      "M8 -7 L13.4 0 M11.6 -7.4 L8 4.6 M13.6 -3 L11 5 M9 -1 L11.4 5.4",
+      0.55F, kGold);
+}
+
+void add_mirror(Figure& f) {
+  f.inked("M66.8 48 L69.4 48 L69.8 70 L66.4 70 Z", kGold);
+  f.inked(ellipse({68, 40.6F}, 7, 8.6F), kGold);
+  f.inked(ellipse({68, 40.6F}, 5.1F, 6.6F), kGlass);
+  f.line("M65.4 42.4 L69.6 36.4 M66.6 45 L71.4 38.2", 1, {255, 255, 255, 255});
+  f.inked(circle({68, 31}, 1.3F), kVermilion);
 }
 
 // Diamonds: dark and elegant, with her mirror.
@@ -131,12 +149,7 @@ void add_queen_of_diamonds(Figure& f) {
   f.sprinkle(suit_outline(Suit::diamonds, {0, 0}, 4.4F),
              {{26, 70}, {32, 66}, {32, 74}, {26, 77.4F}, {37, 70.6F}}, kGold);
   f.at = head_place(47.5F, 38, 4, -1);
-  f.inked("M-6 -8 C-12 -9 -14.6 -4 -13.6 1 C-12.8 5.6 -9 6.4 -7 4 Z", kChestnut);
-  f.inked("M6 -8 C12 -9 14.6 -4 13.6 1 C12.8 5.6 9 6.4 7 4 Z", kChestnut);
-  f.line(
-      "M-8 -7 L-13.4 0 M-11.6 -7.4 L-8 4.6 M-13.6 -3 L-11 5 M-9 -1 L-11.4 5.4 "
-      "M8 -7 L13.4 0 M11.6 -7.4 L8 4.6 M13.6 -3 L11 5 M9 -1 L11.4 5.4",
-      0.55F, kGold);
+  add_netted_rolls(f);
   add_face(f, {{70, 36, 26, 255}, {76, 48, 30, 255}, true});
   add_parting(f, kChestnut);
   f.inked(
@@ -148,11 +161,7 @@ void add_queen_of_diamonds(Figure& f) {
              kTeal);
   f.inked(circle({8.8F, 6.6F}, 1.1F), kGold);
   f.at = {};
-  f.inked("M66.8 48 L69.4 48 L69.8 70 L66.4 70 Z", kGold);
-  f.inked(ellipse({68, 40.6F}, 7, 8.6F), kGold);
-  f.inked(ellipse({68, 40.6F}, 5.1F, 6.6F), kGlass);
-  f.line("M65.4 42.4 L69.6 36.4 M66.6 45 L71.4 38.2", 1, {255, 255, 255, 255});
-  f.inked(circle({68, 31}, 1.3F), kVermilion);
+  add_mirror(f);
   add_arm(f, {68.2F, 60}, 1, kTeal, kCream);
 }
 
@@ -238,24 +247,8 @@ void add_tulip(Figure& f) {
   f.line("M65.6 25 C65 29 66 33 68.6 36 C71.2 33 72.2 29 71.6 25", 0.55F, {90, 6, 26, 255});
 }
 
-// Spades: the widow, severe in wimple and veil, with a tulip.
-void add_queen_of_spades(Figure& f) {
-  add_tulip(f);
-  f.at = head_place(48, 38, 0, -1);
-  f.inked(
-      "M0 -14 C-10 -14 -13 -6 -13 4 C-13 14 -18 20 -22 30 L22 30 C17 20 13 14 13 4 "
-      "C13 -6 10 -14 0 -14 Z",
-      kNavy);
-  f.at = {};
-  f.inked("M22 80 C24 68 32 60 40 57 L57 57 C66 59 71 64 73.6 71.6 Z", {56, 46, 84, 255});
-  f.inked("M41 62 L55 62 L58 75.4 L40 79 Z", kCrimson);
-  f.line("M43 66 L55.6 64.6 M42.4 70.4 L56.4 68.6 M41.6 74.6 L57 72", 0.9F, kGold);
-  f.line("M40 60 C37 66 37 72 38 79.6 M58 60 C61 65 61.4 70 60.6 75", 1.1F, kGold);
-  f.sprinkle(outline("M0 -2 L0.6 -0.6 L2 0 L0.6 0.6 L0 2 L-0.6 0.6 L-2 0 L-0.6 -0.6 Z"),
-             {{29, 73}, {34, 67}, {33, 76}, {66, 67}}, kGold);
-  f.at = head_place(48, 38, 0, -1);
-  f.inked("M-8.6 -8 C-11 2 -10 12 -12 20 C-8 26 8 26 12 20 C10 12 11 2 8.6 -8 Z", kCream);
-  add_face(f, {kRaven, {52, 56, 74, 255}, true, 1.3F});
+// Cloth around the face, and the veil over it.
+void add_wimple(Figure& f) {
   f.inked(
       "M-7.8 -8 C-9 0 -8.4 6 -5.4 10 C-3.6 12.6 -2 13.4 -0.6 13.4 C3 13.4 6.4 10 7.8 5 "
       "C8.8 0 8.6 -4 7.8 -8 L10.4 -8 C11.8 2 11 10 12 18 C8 25 -8 25 -12 18 C-10.6 10 -11 2 "
@@ -269,6 +262,26 @@ void add_queen_of_spades(Figure& f) {
       "M-9.8 -3 C-8 -9 -4 -11 0 -11 C4 -11 8 -9 9.8 -3 C12 -8 9 -15 0 -15 C-9 -15 -12 -8 "
       "-9.8 -3 Z",
       kNavy);
+}
+
+// Spades: the widow, severe in wimple and veil, with a tulip.
+void add_queen_of_spades(Figure& f) {
+  add_tulip(f);
+  f.at = head_place(48, 38, 0, -1);
+  f.inked(
+      "M0 -14 C-10 -14 -13 -6 -13 4 C-13 14 -18 20 -22 30 L22 30 C17 20 13 14 13 4 "
+      "C13 -6 10 -14 0 -14 Z",
+      kNavy);
+  f.at = {};
+  f.inked("M22 80 C24 68 32 60 40 57 L57 57 C66 59 71 64 73.6 71.6 Z", {56, 46, 84, 255});
+  f.inked("M41 62 L55 62 L58 75.4 L40 79 Z", kCrimson);
+  f.line("M40 60 C37 66 37 72 38 79.6 M58 60 C61 65 61.4 70 60.6 75", 1.1F, kGold);
+  f.sprinkle(outline("M0 -2 L0.6 -0.6 L2 0 L0.6 0.6 L0 2 L-0.6 0.6 L-2 0 L-0.6 -0.6 Z"),
+             {{29, 73}, {34, 67}, {33, 76}, {66, 67}}, kGold);
+  f.at = head_place(48, 38, 0, -1);
+  f.inked("M-8.6 -8 C-11 2 -10 12 -12 20 C-8 26 8 26 12 20 C10 12 11 2 8.6 -8 Z", kCream);
+  add_face(f, {kRaven, {52, 56, 74, 255}, true, 1.3F});
+  add_wimple(f);
   f.inked(
       "M-8.4 -12 L-10 -19.4 L-6 -16.6 L-4 -21.6 L-1.8 -17.4 L0 -24.4 L1.8 -17.4 L4 -21.6 "
       "L6 -16.6 L10 -19.4 L8.4 -12 Q0 -14.6 -8.4 -12 Z",

@@ -1,4 +1,4 @@
-// Draws the game's pictures side by side, to be looked at: contact_sheets FOLDER.
+// Draws the game's pictures side by side, to be looked at: tombrello-pictures FOLDER.
 
 #include <QDir>
 #include <cstdio>
@@ -17,7 +17,7 @@ bool write(const QDir& folder, const char* name, const QImage& image) {
 
 int main(int argc, char** argv) {
   if (argc != 2) {
-    std::fprintf(stderr, "usage: contact_sheets FOLDER\n");
+    std::fprintf(stderr, "usage: tombrello-pictures FOLDER\n");
     return 2;
   }
   const QDir folder(argv[1]);
@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
                     write(folder, "cards-large.png", card_sheet(144, 226)) &&
                     write(folder, "fan.png", fan_sheet(1)) &&
                     write(folder, "strips.png", strip_sheet(1)) &&
-                    write(folder, "opening.png", opening_sheet(960, 720)) &&
+                    write(folder, "opening.png", opening_sheet(640, 480)) &&
                     write(folder, "icon.png", icon_sheet());
   return done ? 0 : 1;
 }

@@ -76,7 +76,7 @@ QImage opening_sheet(int width, int height) {
 }
 
 QImage icon_sheet() {
-  QImage sheet(400, 280, QImage::Format_RGB32);
+  QImage sheet(390, 148, QImage::Format_RGB32);
   sheet.fill(QColor(200, 200, 204));
   QPainter painter(&sheet);
   int x = 10;
