@@ -10,7 +10,7 @@
 #include <tuple>
 #include <vector>
 
-#include "tools/pictures/rasterise.h"
+#include "platform/desktop/rasteriser.h"
 
 namespace tombrello {
 namespace {

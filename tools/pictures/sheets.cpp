@@ -4,10 +4,11 @@
 #include <QTransform>
 
 #include "table/pictures/pictures.h"
-#include "tools/pictures/rasterise.h"
+#include "platform/desktop/rasteriser.h"
 
 using tombrello::draw_picture;
 using tombrello::PictureSet;
+using tombrello::rasterise;
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "table/pictures/pictures.h"
-#include "tools/pictures/rasterise.h"
+#include "platform/desktop/rasteriser.h"
 
 namespace tombrello {
 namespace {
