@@ -79,7 +79,9 @@ void Surface::filled_box(float x1, float y1, float x2, float y2, Colour colour) 
 }
 
 void Surface::open_box(float x1, float y1, float x2, float y2, Colour colour) {
-  add(BoxItem{ordered(x1, y1, x2, y2), colour, false});
+  const Item frame = BoxItem{ordered(x1, y1, x2, y2), colour, false};
+  std::erase(items_, frame);
+  add(frame);
 }
 
 void Surface::paint(Picture picture, float x, float y, float width, float height) {

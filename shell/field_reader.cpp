@@ -73,10 +73,24 @@ int following_bytes(unsigned char first) {
   return -1;
 }
 
+// Shortest forms only, no surrogates, nothing past the last character.
+bool may_follow_first(unsigned char first, unsigned char second) {
+  if (first == 0xE0) return second >= 0xA0;
+  if (first == 0xED) return second < 0xA0;
+  if (first == 0xF0) return second >= 0x90;
+  if (first == 0xF4) return second < 0x90;
+  return true;
+}
+
 bool is_utf8(const std::string& bytes) {
   for (std::size_t i = 0; i < bytes.size(); ++i) {
-    int following = following_bytes(static_cast<unsigned char>(bytes[i]));
+    const auto first = static_cast<unsigned char>(bytes[i]);
+    int following = following_bytes(first);
     if (following < 0) return false;
+    if (following > 0 && i + 1 < bytes.size() &&
+        !may_follow_first(first, static_cast<unsigned char>(bytes[i + 1]))) {
+      return false;
+    }
     for (; following > 0; --following) {
       if (++i >= bytes.size()) return false;
       if ((static_cast<unsigned char>(bytes[i]) & 0xC0U) != 0x80U) return false;

@@ -1,5 +1,7 @@
 #include "shell/names_dialog.h"
 
+#include "shell/player_name.h"
+
 namespace tombrello {
 namespace {
 
@@ -62,8 +64,10 @@ void NamesDialog::personalize_players_Click() {
   window_.bring_to_front(Shape1_0);
 }
 
-void NamesDialog::TxtPlayer_Change(int index, const std::string& upper_case) {
-  if (is_storable_name(upper_case)) s_.nomi[static_cast<std::size_t>(index - 1)] = upper_case;
+// The field goes on showing what was typed.
+void NamesDialog::TxtPlayer_Change(int index, const std::string& text) {
+  const std::string name = name_from_typed(text);
+  if (is_storable_name(name)) s_.nomi[static_cast<std::size_t>(index - 1)] = name;
 }
 
 bool NamesDialog::is_on_confirm_button(float x, float y) const {

@@ -20,7 +20,7 @@ class NamesDialog {
   void create();
 
   void personalize_players_Click();
-  void TxtPlayer_Change(int index, const std::string& upper_case);
+  void TxtPlayer_Change(int index, const std::string& text);
 
   bool is_open() const { return window_.visible(TxtPlayer_0 + 1); }
   /// True if a press there confirms the names while the dialog is open.

@@ -1,11 +1,11 @@
 #include "shell/settings.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 
 #include "shell/field_reader.h"
+#include "shell/player_name.h"
 
 namespace tombrello {
 namespace {
@@ -55,22 +55,13 @@ void read_deck(State& s, FieldReader& fields) {
 
 }  // namespace
 
-bool is_storable_name(const std::string& utf8) {
-  auto starts_character = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
-  auto breaks_file = [](char c) {
-    return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || c == ',' || c == '"';
-  };
-  return std::count_if(utf8.begin(), utf8.end(), starts_character) <= kMostNameCharacters &&
-         std::none_of(utf8.begin(), utf8.end(), breaks_file);
-}
-
 void Settings::Set_Read() {
   const std::string content = as_utf8(archive_.read(kSettingsFile, kMostBytes).value_or(""));
   FieldReader fields(content);
   s_.velocita = static_cast<std::uint8_t>(whole_in_range(fields.number(), 1, 3, 1));
   for (std::size_t i = 0; i < kFirstNames.size(); ++i) {
     const auto name = fields.text();
-    s_.nomi[i] = name && is_storable_name(*name) ? *name : kFirstNames[i];
+    s_.nomi[i] = name && is_storable_name(*name) ? without_outer_blanks(*name) : kFirstNames[i];
   }
   s_.fruscio_opz = static_cast<std::uint8_t>(whole_in_range(fields.number(), 0, 1, 1));
   s_.brano = static_cast<std::uint8_t>(whole_in_range(fields.number(), 0, 101, 0));

@@ -25,10 +25,4 @@ class Settings {
   Archive& archive_;
 };
 
-inline constexpr int kMostNameCharacters = 7;
-
-/// A name as the settings file can hold it: at most seven characters, no comma, double quote or
-/// control character.
-bool is_storable_name(const std::string& utf8);
-
 }  // namespace tombrello

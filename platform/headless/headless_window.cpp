@@ -1,1 +1,186 @@
-#include "platform/window.h"
+#include "platform/headless/headless_window.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tombrello {
+namespace {
+
+// Cuts a UTF-8 text after so many characters.
+std::string cut(const std::string& text, int most_characters) {
+  std::size_t end = 0;
+  for (int left = most_characters; end < text.size(); ++end) {
+    const bool starts_character = (static_cast<unsigned char>(text[end]) & 0xC0U) != 0x80U;
+    if (starts_character && left-- == 0) break;
+  }
+  return text.substr(0, end);
+}
+
+}  // namespace
+
+void HeadlessTimer::start(int milliseconds) {
+  running_ = true;
+  period_ = milliseconds;
+}
+
+std::optional<std::string> MemoryArchive::read(const std::string& name, std::size_t most) {
+  const auto found = files.find(name);
+  if (found == files.end()) return std::nullopt;
+  return found->second.substr(0, most);
+}
+
+bool MemoryArchive::replace(const std::string& name, const std::string& content) {
+  if (!writable) return false;
+  files[name] = content;
+  ++writes;
+  return true;
+}
+
+std::vector<std::string> MemoryArchive::list(const std::string& folder) {
+  std::vector<std::string> names;
+  const std::string start = folder + "/";
+  for (const auto& [name, content] : files) {
+    if (!name.starts_with(start)) continue;
+    if (name.find('/', start.size()) == std::string::npos)
+      names.push_back(name.substr(start.size()));
+  }
+  return names;
+}
+
+void HeadlessWindow::serve_events() {
+  ++passes_;
+  if (on_pass) on_pass();
+  if (closing_) return;
+  if (timer_.running()) {
+    end_timer();
+  } else if (!script.empty()) {
+    const Action action = std::move(script.front());
+    script.pop_front();
+    action();
+  } else if (!on_pass) {
+    close();
+  }
+}
+
+void HeadlessWindow::end_timer() {
+  timer_.running_ = false;
+  timer_.elapsed_ += timer_.period_;
+  if (events_ != nullptr) events_->timer_ticked();
+}
+
+Answer HeadlessWindow::message_box(const std::string& text, Buttons buttons) {
+  const Answer otherwise = buttons == Buttons::ok ? Answer::ok : Answer::no;
+  if (closing_) return otherwise;
+  boxes.push_back(text);
+  in_box_ = true;
+  if (on_box) on_box();
+  in_box_ = false;
+  if (closing_ || buttons == Buttons::ok) return otherwise;
+  if (answers.empty()) return Answer::yes;
+  const Answer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+// A box is modal: nothing else takes a press or a key while it stands.
+void HeadlessWindow::press(float x, float y, Button button) {
+  if (!in_box_ && events_ != nullptr) events_->pressed(button, x, y);
+}
+
+void HeadlessWindow::move(float x, float y) {
+  if (!in_box_ && events_ != nullptr) events_->moved(x, y);
+}
+
+bool HeadlessWindow::choose(EntryId entry) {
+  if (in_box_ || events_ == nullptr || !enabled(entry)) return false;
+  events_->entry_chosen(entry);
+  return true;
+}
+
+bool HeadlessWindow::click(ControlId control) {
+  if (in_box_ || events_ == nullptr || !visible(control)) return false;
+  events_->control_clicked(control);
+  return true;
+}
+
+bool HeadlessWindow::press_key(ControlId control) {
+  if (in_box_ || events_ == nullptr || !visible(control)) return false;
+  events_->control_key_pressed(control);
+  return true;
+}
+
+bool HeadlessWindow::type(ControlId field, const std::string& text) {
+  if (in_box_ || events_ == nullptr || !visible(field)) return false;
+  Control& control = controls_.at(field);
+  control.text = cut(text, control.most_characters);
+  events_->field_changed(field, control.text);
+  return true;
+}
+
+bool HeadlessWindow::press_enter(ControlId field) {
+  if (in_box_ || events_ == nullptr || !visible(field)) return false;
+  events_->field_confirmed(field);
+  return true;
+}
+
+void HeadlessWindow::add_entry(EntryId entry, EntryId parent, const std::string& caption) {
+  const int place = static_cast<int>(entries_.size());
+  entries_.insert_or_assign(entry, Entry{parent, caption, false, true, place});
+}
+
+std::vector<EntryId> HeadlessWindow::entries(EntryId parent) const {
+  std::vector<EntryId> children;
+  for (const auto& [id, entry] : entries_) {
+    if (entry.parent == parent) children.push_back(id);
+  }
+  std::sort(children.begin(), children.end(),
+            [this](EntryId a, EntryId b) { return entries_.at(a).place < entries_.at(b).place; });
+  return children;
+}
+
+void HeadlessWindow::add_control(ControlId control, std::string text, int most_characters) {
+  controls_.insert_or_assign(control,
+                             Control{{}, std::move(text), most_characters, false, ++highest_});
+}
+
+void HeadlessWindow::add_panel(ControlId panel, const std::string& text, const Font&, long, long) {
+  add_control(panel, text);
+}
+
+void HeadlessWindow::add_field(ControlId field, int most_characters, const Font&) {
+  add_control(field, "", most_characters);
+}
+
+void HeadlessWindow::add_shape(ControlId shape, Colour) {
+  add_control(shape, "");
+}
+
+void HeadlessWindow::add_picture(ControlId control, Picture) {
+  add_control(control, "");
+}
+
+void HeadlessWindow::set_visible(ControlId control, bool visible) {
+  controls_.at(control).visible = visible;
+}
+
+bool HeadlessWindow::visible(ControlId control) const {
+  const auto found = controls_.find(control);
+  return found != controls_.end() && found->second.visible;
+}
+
+void HeadlessWindow::set_text(ControlId field, const std::string& text) {
+  controls_.at(field).text = text;
+}
+
+ControlId HeadlessWindow::front() const {
+  ControlId front = 0;
+  int height = 0;
+  for (const auto& [id, control] : controls_) {
+    if (!control.visible || control.height <= height) continue;
+    front = id;
+    height = control.height;
+  }
+  return front;
+}
+
+}  // namespace tombrello

@@ -1,0 +1,146 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/archive.h"
+#include "platform/timer.h"
+#include "platform/window.h"
+
+namespace tombrello {
+
+/// Counts time instead of letting it pass: its end comes with the next pass of the window.
+class HeadlessTimer : public Timer {
+ public:
+  void start(int milliseconds) override;
+  bool running() const { return running_; }
+  int period() const { return period_; }          ///< of the last start, milliseconds
+  long long elapsed() const { return elapsed_; }  ///< milliseconds of all the periods that ended
+
+ private:
+  friend class HeadlessWindow;
+  bool running_ = false;
+  int period_ = 0;
+  long long elapsed_ = 0;
+};
+
+/// Files that live in memory.
+class MemoryArchive : public Archive {
+ public:
+  std::optional<std::string> read(const std::string& name, std::size_t most) override;
+  bool replace(const std::string& name, const std::string& content) override;
+  std::vector<std::string> list(const std::string& folder) override;
+
+  std::map<std::string, std::string> files;
+  bool writable = true;
+  int writes = 0;
+};
+
+/// A window that nobody sees. What happens in it comes from `on_pass` and `script`, from inside
+/// `serve_events`; what a person couldn't do, such as choosing a disabled entry or typing into a
+/// hidden field, isn't passed on.
+class HeadlessWindow : public Window {
+ public:
+  using Action = std::function<void()>;
+
+  explicit HeadlessWindow(HeadlessTimer& timer) : timer_(timer) {}
+
+  /// Runs at the start of every pass, whatever the game waits for.
+  Action on_pass;
+  /// One action for each pass in which the game waits for the player and no timer runs. When
+  /// they have run out the player leaves, so that no script can hang.
+  std::deque<Action> script;
+  /// Runs while a box stands, before it is answered.
+  Action on_box;
+  /// Answers to boxes of yes and no; yes when they have run out.
+  std::deque<Answer> answers;
+  /// The texts of the boxes so far.
+  std::vector<std::string> boxes;
+
+  void press(float x, float y, Button button = Button::left);
+  void move(float x, float y);
+  bool choose(EntryId entry);
+  bool click(ControlId control);
+  bool press_key(ControlId control);
+  bool type(ControlId field, const std::string& text);
+  bool press_enter(ControlId field);
+
+  const std::string& caption() const { return caption_; }
+  bool shown() const { return shown_; }
+  int passes() const { return passes_; }
+  int milliseconds_shown() const { return milliseconds_shown_; }
+  /// Top to bottom and left to right, the entries of a parent or of the bar.
+  std::vector<EntryId> entries(EntryId parent) const;
+  const std::string& caption(EntryId entry) const { return entries_.at(entry).caption; }
+  const Area& area(ControlId control) const { return controls_.at(control).area; }
+  const std::string& text(ControlId control) const { return controls_.at(control).text; }
+  /// The visible control that lies over all others, 0 for none.
+  ControlId front() const;
+
+  void set_events(WindowEvents* events) override { events_ = events; }
+  Surface& surface() override { return surface_; }
+  void set_caption(const std::string& text) override { caption_ = text; }
+  void show_maximised() override { shown_ = true; }
+  void serve_events() override;
+  void show_now(int milliseconds) override { milliseconds_shown_ += milliseconds; }
+  bool closing() const override { return closing_; }
+  void close() override { closing_ = true; }
+  void set_pointer(PointerShape shape) override { pointer_ = shape; }
+  PointerShape pointer() const override { return pointer_; }
+  Answer message_box(const std::string& text, Buttons buttons) override;
+
+  void add_entry(EntryId entry, EntryId parent, const std::string& caption) override;
+  void set_checked(EntryId entry, bool checked) override { entries_.at(entry).checked = checked; }
+  bool checked(EntryId entry) const override { return entries_.at(entry).checked; }
+  void set_enabled(EntryId entry, bool enabled) override { entries_.at(entry).enabled = enabled; }
+  bool enabled(EntryId entry) const override { return entries_.at(entry).enabled; }
+
+  void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
+                 long back_colour) override;
+  void add_field(ControlId field, int most_characters, const Font& font) override;
+  void add_shape(ControlId shape, Colour colour) override;
+  void add_picture(ControlId control, Picture picture) override;
+  void place(ControlId control, const Area& area) override { controls_.at(control).area = area; }
+  void set_visible(ControlId control, bool visible) override;
+  bool visible(ControlId control) const override;
+  void bring_to_front(ControlId control) override { controls_.at(control).height = ++highest_; }
+  void set_text(ControlId field, const std::string& text) override;
+
+ private:
+  struct Entry {
+    EntryId parent = kMenuBar;
+    std::string caption;
+    bool checked = false;
+    bool enabled = true;
+    int place = 0;  // in the order in which entries were added
+  };
+  struct Control {
+    Area area;
+    std::string text;
+    int most_characters = 0;  // of a field
+    bool visible = false;
+    int height = 0;  // above the table
+  };
+
+  void add_control(ControlId control, std::string text, int most_characters = 0);
+  void end_timer();
+
+  HeadlessTimer& timer_;
+  WindowEvents* events_ = nullptr;
+  Surface surface_;
+  std::map<EntryId, Entry> entries_;
+  std::map<ControlId, Control> controls_;
+  std::string caption_;
+  PointerShape pointer_ = PointerShape::arrow;
+  bool shown_ = false;
+  bool closing_ = false;
+  bool in_box_ = false;
+  int passes_ = 0;
+  int milliseconds_shown_ = 0;
+  int highest_ = 0;
+};
+
+}  // namespace tombrello

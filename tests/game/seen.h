@@ -1,0 +1,92 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "platform/surface.h"
+
+namespace tombrello {
+
+using Lines = std::vector<std::string>;
+
+/// "x,y" of a number pair, rounded as a reader would write it.
+inline std::string at(float x, float y) {
+  char text[48];
+  std::snprintf(text, sizeof text, "%.6g,%.6g", static_cast<double>(x), static_cast<double>(y));
+  return text;
+}
+
+inline std::string colour_name(Colour colour) {
+  switch (colour) {
+    case kFelt:
+      return "felt";
+    case kGrey:
+      return "grey";
+    case kGreen:
+      return "green";
+    case kWhite:
+      return "white";
+    case kBlue:
+      return "blue";
+    case kBlack:
+      return "black";
+    case kPaleYellow:
+      return "pale";
+    case kYellow:
+      return "yellow";
+    default:
+      return std::to_string(colour);
+  }
+}
+
+/// One item as a line: "carta14 250,485.75 310,580", with "turned" behind a half turn;
+/// "box 250,460.75 570,580 felt" or "frame ..."; "'TU' 370,464.9 Arial 8 white", with "+1" behind
+/// the place of a text that stands one line lower.
+inline std::string seen(const Item& item) {
+  const auto corners = [](const Area& a) {
+    return at(a.left, a.top) + " " + at(a.right, a.bottom);
+  };
+  if (const auto* box = std::get_if<BoxItem>(&item)) {
+    return (box->filled ? "box " : "frame ") + corners(box->area) + " " + colour_name(box->colour);
+  }
+  if (const auto* picture = std::get_if<PictureItem>(&item)) {
+    static const char* const kSets[] = {"carta", "cartao", "dorsov", "dorsoo", "quadro"};
+    const std::string turn = picture->mirrored_x && picture->mirrored_y ? " turned"
+                             : picture->mirrored_x                      ? " mirrored x"
+                             : picture->mirrored_y                      ? " mirrored y"
+                                                                        : "";
+    return kSets[static_cast<int>(picture->picture.set)] + std::to_string(picture->picture.index) +
+           " " + corners(picture->area) + turn;
+  }
+  const auto& text = std::get<TextItem>(item);
+  const std::string lower =
+      text.lines_above.empty() ? "" : "+" + std::to_string(text.lines_above.size());
+  char size[16];
+  std::snprintf(size, sizeof size, " %g ", static_cast<double>(text.font.size));
+  return "'" + text.text + "' " + at(text.x, text.y) + lower + " " + text.font.name + size +
+         colour_name(text.colour);
+}
+
+enum class Kind { everything, pictures, texts, boxes };
+
+/// True if one of the lines is, or holds, this text.
+inline bool has(const Lines& lines, const std::string& text) {
+  return std::any_of(lines.begin(), lines.end(),
+                     [&](const std::string& line) { return line.find(text) != std::string::npos; });
+}
+
+inline Lines seen(const Surface& surface, Kind kind = Kind::everything) {
+  Lines lines;
+  for (const Item& item : surface.items()) {
+    const auto index = static_cast<std::size_t>(kind);
+    constexpr std::size_t kIndex[] = {9, 1, 2, 0};  // alternatives of Item
+    if (kind == Kind::everything || item.index() == kIndex[index]) lines.push_back(seen(item));
+  }
+  return lines;
+}
+
+}  // namespace tombrello
