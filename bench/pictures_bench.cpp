@@ -2,8 +2,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "table/pictures/pictures.h"
 #include "platform/desktop/rasteriser.h"
+#include "table/pictures/pictures.h"
 
 namespace tombrello {
 namespace {

@@ -28,15 +28,23 @@ int whole_in_range(std::optional<double> value, int least, int most, int otherwi
   return std::floor(field) == field ? static_cast<int>(field) : otherwise;
 }
 
+// One blank in front, the place of the sign, and one behind.
+std::string number_line(const std::string& digits) {
+  std::string line(1, ' ');
+  line += digits;
+  line += " \r\n";
+  return line;
+}
+
 std::string number_line(float value) {
   std::array<char, 32> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
                                  std::chars_format::general, 7);
-  return " " + std::string(digits.data(), end.ptr) + " \r\n";
+  return number_line(std::string(digits.data(), end.ptr));
 }
 
 std::string number_line(int value) {
-  return " " + std::to_string(value) + " \r\n";
+  return number_line(std::to_string(value));
 }
 
 void read_deck(State& s, FieldReader& fields) {

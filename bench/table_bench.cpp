@@ -1,0 +1,105 @@
+// The table's painting on the Qt surface, in the middle of a hand.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+
+#include "platform/desktop/surface_painter.h"
+#include "platform/headless/headless_window.h"
+#include "table/painted_table.h"
+#include "table/pictures/pictures.h"
+#include "tools/simulation/simulation.h"
+
+namespace tombrello {
+namespace {
+
+// A hand that has come some way, with a full fan for seat 1.
+State some_hand() {
+  Simulation simulation(ScriptKind::melder, 1);
+  simulation.play_hand(40, false);
+  State state = simulation.state();
+  state.nomi = {"TU", "OVEST", "NORD", "EST"};
+  for (int k = state.n_mano[1] + 1; k <= kHandSlots; ++k) {
+    state.mano[1][k] = static_cast<std::int16_t>(7 * k);
+  }
+  state.n_mano[1] = kHandSlots;
+  return state;
+}
+
+class Screen {
+ public:
+  Screen(int width, int height)
+      : image_(width, height, QImage::Format_RGB32),
+        geometry_(image_.size(), 1, 96),
+        pictures_(draw_picture),
+        state_(some_hand()),
+        window_(timer_),
+        table_(state_, metrics_, window_) {
+    window_.surface().set_background(kFelt);
+    table_.repaint_hand();
+    window_.surface().take_changes();
+    paint(image_.rect());
+  }
+
+  void redraw_fan() {
+    table_.ridisegno_carte();
+    QRegion changed;
+    for (const Item& item : window_.surface().take_changes().items) {
+      changed += pixels_of(item, geometry_);
+    }
+    paint(changed);
+  }
+  void paint_whole() { paint(image_.rect()); }
+  double megabytes() const { return static_cast<double>(pictures_.bytes()) / 1e6; }
+
+ private:
+  void paint(const QRegion& region) {
+    QPainter painter(&image_);
+    paint_surface(painter, window_.surface(), geometry_, region, pictures_);
+  }
+
+  QImage image_;
+  TableGeometry geometry_;
+  PictureCache pictures_;
+  State state_;
+  Metrics metrics_;
+  HeadlessTimer timer_;
+  HeadlessWindow window_;
+  PaintedTable table_;
+};
+
+// The erasing box, the four names and 14 cards, from the game's call to the last pixel.
+void redraw_fan(benchmark::State& run) {
+  Screen screen(static_cast<int>(run.range(0)), static_cast<int>(run.range(1)));
+  for (auto _ : run) screen.redraw_fan();
+}
+BENCHMARK(redraw_fan)->Args({1920, 1080})->Args({3840, 2160})->Unit(benchmark::kMicrosecond);
+
+void whole_table(benchmark::State& run) {
+  Screen screen(static_cast<int>(run.range(0)), static_cast<int>(run.range(1)));
+  for (auto _ : run) screen.paint_whole();
+  run.counters["pictures_MB"] = screen.megabytes();
+}
+BENCHMARK(whole_table)->Args({1920, 1080})->Args({3840, 2160})->Unit(benchmark::kMicrosecond);
+
+// The same with every picture rendered anew, as after a resize.
+void first_paint_of_table(benchmark::State& run) {
+  for (auto _ : run) Screen(static_cast<int>(run.range(0)), static_cast<int>(run.range(1)));
+}
+BENCHMARK(first_paint_of_table)
+    ->Args({1920, 1080})
+    ->Args({3840, 2160})
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace tombrello
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
