@@ -5,23 +5,6 @@
 namespace tombrello::test {
 namespace {
 
-// A computer hand closes its gaps and is counted; its order stays.
-TEST(Hands, ComputerHandsCloseTheirGapsInOrder) {
-  const struct {
-    const char* before;
-    const char* after;
-  } kCases[] = {{"Ah - 7h - 5h", "Ah 7h 5h"}, {"- - -", ""}, {"- Kd", "Kd"}, {"2h' 2h", "2h' 2h"}};
-  for (const auto& c : kCases) {
-    Deal d;
-    d.s.n_mano[2] = 0;
-    for (const int code : cards(c.before)) {
-      d.s.mano[2][++d.s.n_mano[2]] = static_cast<std::int16_t>(code);
-    }
-    d.rules.hands.riduco_carte(2);
-    EXPECT_EQ(d.hand_text(2), c.after) << c.before;
-  }
-}
-
 // The person's 14 slots are sorted by rank, Kings first, empty slots last, equal ranks as they
 // stood; the count isn't touched.
 TEST(Hands, ThePersonsHandIsSortedByRankAndKeepsEqualRanksInOrder) {

@@ -97,6 +97,7 @@ TEST(MeldDecision, AFullListTakesOnlyWhatFits) {
       {"3c 4c 5c 6c 7c", "2s", "Ks", 0, ""},
       {"3c 4c 5c 6c 7c 2h 2d", "2s", "Ks", 1, "2h 2d 2s"},
       {"3c 4c 5c", "2s", "Ks", 1, "3c 4c 5c"},
+      {"3c 4c 5c 6c 7c 3s 4s 5s", "9d", "Ks", 0, ""},  // the spades would fit: not looked at
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.hand);
