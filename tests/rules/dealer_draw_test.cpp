@@ -95,6 +95,7 @@ TEST(DealerDraw, The35thPassBeginsOnAFreshDeck) {
   d.click(34 * 4);
   d.then([&] {
     EXPECT_EQ(d.s.indice_estrazione, 1);
+    EXPECT_NE(d.s.mazzo[103], d.s.mazzo[104]) << "shuffled again";
     EXPECT_EQ(d.s.di_turno, 2);
     d.s.mazzo[1] = static_cast<std::int16_t>(card("Kh"));
     d.s.mazzo[2] = d.s.mazzo[3] = d.s.mazzo[4] = static_cast<std::int16_t>(card("Ah"));

@@ -17,7 +17,8 @@ struct Kept : Deal {
     s.cartaro = 1;
     s.di_turno = 2;
     out.replay = true;
-    then([] {});  // the scoreboard stands, nothing happens yet
+    s.continua = true;  // an old press of "Continua" counts for nothing
+    then([] {});        // the scoreboard stands, nothing happens yet
   }
   void keep_on() {
     then([this] { s.continua = true; });
@@ -35,6 +36,7 @@ TEST(Match, BeginsWithTheDrawAndDealsAFreshDeck) {
   Deal d;
   d.s.numero_mano = 7;
   d.s.punti_totali = {0, 400, 300};
+  d.s.punti_mano[1] = {0, 400, 300};
   d.s.nomi = {"TU", "OVEST", "NORD", "EST"};
   draw_for_dealer(d);
   std::array<std::int16_t, kCards + 1> drawn_from{};
@@ -43,6 +45,7 @@ TEST(Match, BeginsWithTheDrawAndDealsAFreshDeck) {
   EXPECT_EQ(d.s.cartaro, 2);
   EXPECT_EQ(d.s.numero_mano, 1);
   EXPECT_EQ(d.s.punti_totali[1], 0);
+  EXPECT_EQ(d.s.punti_mano[1][2], 0);
   EXPECT_NE(d.s.mazzo, drawn_from);
   EXPECT_EQ(d.s.squadre[0], "TU-NORD");
   EXPECT_EQ(d.s.squadre[1], "OVEST-EST");
