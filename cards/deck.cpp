@@ -18,7 +18,8 @@ void Deck::Mescola() {
 // A pick that falls on a taken slot is thrown away and retried, never moved to a neighbour.
 void Deck::shuffle_into(int first, int count) {
   for (int i = first; i < first + count;) {
-    const auto pick = static_cast<std::size_t>(random_.next() * count + first);
+    // Cut before the sum: r * 52 + 53 can round up to 105, a slot too far.
+    const int pick = static_cast<int>(random_.next() * count) + first;
     if (s_.mazzo_tmp[pick] == 0) continue;
     s_.mazzo[i] = s_.mazzo_tmp[pick];
     s_.mazzo_tmp[pick] = 0;

@@ -11,7 +11,9 @@ namespace tombrello {
 /// and the clock's reading alone.
 class Random {
  public:
-  explicit Random(Clock& clock) : clock_(clock) {}
+  /// Starts from the clock: a replayed hand is played without a shuffle, and its random choices
+  /// aren't to be the same in every run.
+  explicit Random(Clock& clock) : clock_(clock) { seed_from_clock(); }
 
   void reset(int negative) { engine_.seed(static_cast<std::uint64_t>(std::int64_t{negative})); }
   void seed_from_clock() { engine_.seed(engine_() ^ clock_.reading()); }

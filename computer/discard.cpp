@@ -72,7 +72,7 @@ int Computer::slot_of_twin(int seat) const {
 }
 
 int Computer::slot_by_chance(int seat) {
-  return static_cast<int>(s_.n_mano[seat] * random_.next() + 1);
+  return static_cast<int>(s_.n_mano[seat] * random_.next()) + 1;
 }
 
 }  // namespace tombrello

@@ -72,6 +72,8 @@ int Computer::slot_for_same_rank(const Target& target) const {
   const int last = target.last;
   if (last - target.first + 1 == 4) return kNoSlot;
   const int suit = missing_suit(Seme(list[last]), Seme(list[last - 1]), Seme(list[last - 2]));
+  // A scala that closed the circle after K♦ K♠ A♠ ends in two suits and reads as a tris.
+  if (suit < 1 || suit > kSuits) return kNoSlot;
   const int rank = ValCarta(list[last]);
   if (!slice(target.seat, suit).holds(rank)) return kNoSlot;
   return first_slot_with(target.seat, (suit - 1) * kRanks + rank);

@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "tests/rules/deal.h"
+
+namespace tombrello::test {
+namespace {
+
+// Codes run suit by suit, Ace to King, pack after pack; both packs share faces, not backs.
+TEST(Cards, EveryCodeHasItsSuitRankFaceAndBack) {
+  int code = 0;
+  for (int pack = 0; pack < 2; ++pack) {
+    for (int suit = 1; suit <= 4; ++suit) {
+      for (int rank = 1; rank <= 13; ++rank) {
+        ++code;
+        SCOPED_TRACE(code);
+        EXPECT_EQ(Seme(code), suit);
+        EXPECT_EQ(ValCarta(code), rank);
+        EXPECT_EQ(presence_position(code), code - 52 * pack);
+        EXPECT_EQ(first_pack_twin(code), code - 52 * pack);
+        EXPECT_EQ(back_number(code), pack);
+      }
+    }
+  }
+  EXPECT_EQ(Seme(0), 0);
+  EXPECT_EQ(ValCarta(0), 0);
+}
+
+std::vector<int> deck_of(const Deal& d) {
+  return {d.s.mazzo.begin() + 1, d.s.mazzo.end()};
+}
+
+// A shuffle leaves every card once, and depends on the clock's reading alone.
+TEST(Shuffle, IsAPermutationThatFollowsTheClockAlone) {
+  std::set<std::vector<int>> seen;
+  for (std::uint64_t clock = 0; clock < 300; ++clock) {
+    Deal d;
+    d.clock = CountingClock(clock);
+    for (std::uint64_t k = 0; k < clock % 7; ++k) d.rules.random.next();
+    d.rules.deck.Mescola();
+    auto deck = deck_of(d);
+    Deal same;
+    same.clock = CountingClock(clock);
+    same.rules.deck.Mescola();
+    ASSERT_EQ(deck, deck_of(same)) << clock;
+    seen.insert(deck);
+    std::sort(deck.begin(), deck.end());
+    for (int i = 0; i < kCards; ++i) ASSERT_EQ(deck[static_cast<std::size_t>(i)], i + 1);
+    ASSERT_EQ(d.s.mazzo_tmp, (std::array<std::int16_t, kCards + 1>{}));
+  }
+  EXPECT_EQ(seen.size(), 300U) << "two clocks dealt the same deck";
+}
+
+// The reshuffle puts the pile's 52 cards behind the deal, the last discard without a privilege.
+TEST(Reshuffle, SharesOutThePileAndLeavesTheDealtSlotsAlone) {
+  std::set<int> turned_up;
+  for (std::uint64_t clock = 0; clock < 200; ++clock) {
+    Deal d(clock);
+    d.rules.deck.Mescola();
+    const auto before = deck_of(d);
+    for (int i = 0; i < kPack; ++i) d.s.pozzo[i] = d.s.mazzo[1 + i];
+    d.s.n_pozzo = kPack;
+    d.s.tallone = kCards;
+    d.rules.deck.reshuffle_when_full();
+    const auto after = deck_of(d);
+    ASSERT_TRUE(std::equal(before.begin(), before.begin() + 52, after.begin()));
+    ASSERT_TRUE(std::is_permutation(after.begin() + 52, after.end(), before.begin()));
+    ASSERT_EQ(d.pile_text(), name_of(after[52]));
+    ASSERT_EQ(d.s.tallone, 54);
+    turned_up.insert(d.s.pozzo[0]);
+  }
+  EXPECT_GT(turned_up.size(), 60U);
+}
+
+TEST(Reshuffle, ComesOnlyWithAFullPileAndIsShownStepByStep) {
+  Deal d;
+  d.stock_at(104);
+  d.rules.deck.reshuffle_when_full();
+  EXPECT_EQ(d.log, Log{});
+  d.rules.deck.add_to_pile(104);
+  d.rules.deck.reshuffle_when_full();
+  EXPECT_EQ(d.log, (Log{"ritardo 0.1", "reshuffle_message", "reshuffle_begins", "ritardo 0.3",
+                        "ritardo 1", "reshuffle_ends", "pile " + name_of(d.s.mazzo[53]),
+                        "stock " + number(back_number(d.s.mazzo[54])), "ritardo 0.3"}));
+}
+
+// What is shown of a deal, told card by card. A pause follows each packet, but for a last
+// packet that isn't seat 4's.
+Log told_deal(const State& s, int dealer) {
+  Log told{"Posiziona_Players", "Apri_suono carta", "stock 0"};
+  for (int slot = 1; slot <= 52; ++slot) {
+    const int seat = (dealer + (slot - 1) / 13) % 4 + 1;
+    const int k = (slot - 1) % 13 + 1;
+    told.push_back("ritardo 0.03");
+    if (seat != 1) told.push_back("suona");
+    told.push_back("dealt " + number(seat) + " " + number(k) + " " + name_of(s.mazzo[slot]));
+    told.push_back(s.mazzo[slot + 1] > 52 ? "stock 1" : "stock 0");
+    if (seat == 1) told.push_back("suona");
+    if (k == 13 && (slot < 52 || seat == 4)) told.push_back("ritardo 0.1");
+  }
+  for (const auto& line : {std::string("Set_Write"), "pile " + name_of(s.mazzo[53]),
+                           std::string(s.mazzo[54] > 52 ? "stock 1" : "stock 0"),
+                           std::string("deal_over"), std::string("ritardo 0.01")}) {
+    told.push_back(line);
+  }
+  return told;
+}
+
+// The seat after the dealer gets the first packet, the dealer the last; the deck is kept when
+// all 52 cards are out.
+TEST(DealTest, EachDealerDealsFourPacketsInTurnOrder) {
+  for (int dealer = 1; dealer <= 4; ++dealer) {
+    SCOPED_TRACE(dealer);
+    Deal d;
+    d.rules.match.Gioco_Imposta();
+    d.s.cartaro = static_cast<std::uint8_t>(dealer);
+    d.log.clear();
+    d.rules.deck.daicarte();
+    for (int slot = 1; slot <= 52; ++slot) {
+      const int seat = (dealer + (slot - 1) / 13) % 4 + 1;
+      ASSERT_EQ(d.s.mano[seat][(slot - 1) % 13 + 1], d.s.mazzo[slot]);
+      ASSERT_TRUE(d.s.presenze[seat].holds(presence_position(d.s.mazzo[slot])));
+    }
+    EXPECT_EQ(d.pile_text(), name_of(d.s.mazzo[53]));
+    EXPECT_EQ(d.s.tallone, 54);
+    EXPECT_EQ(d.log, told_deal(d.s, dealer));
+  }
+}
+
+// Person and computer draw by one rule, at every height of the stock; the last stock card
+// leaves `tallone` at 104.
+TEST(Drawing, FromPileAndStockAtEveryHeight) {
+  for (int tallone = 54; tallone <= 104; ++tallone) {
+    for (int seat = 1; seat <= 4; ++seat) {
+      SCOPED_TRACE(testing::Message() << tallone << " seat " << seat);
+      Deal d;
+      d.stock_at(tallone);
+      d.hand(seat, "Ah Ad");
+      d.rules.deck.take_from_stock(seat);
+      EXPECT_EQ(d.hand_of(seat), (std::vector<int>{1, 14, tallone}));
+      EXPECT_EQ(d.s.tallone, std::min(tallone + 1, 104));
+      EXPECT_EQ(d.log.back(), tallone == 104 ? "stock_empty" : "stock 1");
+      EXPECT_EQ(only(d.log, {"landed"}).size(), seat == 1 ? 0U : 1U);
+
+      d.stock_at(tallone);
+      const int on_top = d.rules.deck.top_of_pile();
+      d.rules.deck.take_from_pile(seat);
+      EXPECT_EQ(d.hand_of(seat).back(), on_top);
+      EXPECT_EQ(d.s.n_pozzo, tallone - 54);
+      EXPECT_EQ(d.log.back(), tallone == 54 ? "pile_empty" : "pile " + name_of(on_top - 1));
+      EXPECT_EQ(d.s.tallone, tallone);
+    }
+  }
+}
+
+// A generator that was never shuffled with still starts from the clock, so that two replays of a
+// hand don't make the same random choices.
+TEST(Chance, StartsFromTheClock) {
+  CountingClock one(1);
+  CountingClock two(2);
+  CountingClock again(1);
+  const double first = Random(one).next();
+  EXPECT_NE(first, Random(two).next());
+  EXPECT_EQ(first, Random(again).next());
+}
+
+}  // namespace
+}  // namespace tombrello::test

@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include "tests/rules/deal.h"
+
+namespace tombrello::test {
+namespace {
+
+void run(Deal& d) {
+  EXPECT_THROW(d.rules.match.Main(), NothingMoreToPost);
+}
+
+/// A run that starts with the kept deck in order, dealt by seat 1. Seat 2 then gets the hearts
+/// and finds the other Ace of hearts on the pile: it goes out on the first turn.
+struct Kept : Deal {
+  Kept() {
+    for (int i = 1; i <= kCards; ++i) s.mazzo[i] = static_cast<std::int16_t>(i);
+    s.cartaro = 1;
+    s.di_turno = 2;
+    out.replay = true;
+    s.continua = true;  // an old press of "Continua" counts for nothing
+    then([] {});        // the scoreboard stands, nothing happens yet
+  }
+  void keep_on() {
+    then([this] { s.continua = true; });
+  }
+};
+
+void draw_for_dealer(Deal& d) {
+  for (int n = 0; n < 4; ++n) {
+    d.then([&d, n] { d.s.carta_scelta = static_cast<std::uint8_t>(card(n == 0 ? "Kh" : "Ah")); });
+  }
+}
+
+// The order of a run: the match, the draw, the hand, its turns.
+TEST(Match, BeginsWithTheDrawAndDealsAFreshDeck) {
+  Deal d;
+  d.s.numero_mano = 7;
+  d.s.punti_totali = {0, 400, 300};
+  d.s.punti_mano[1] = {0, 400, 300};
+  d.s.nomi = {"TU", "OVEST", "NORD", "EST"};
+  draw_for_dealer(d);
+  std::array<std::int16_t, kCards + 1> drawn_from{};
+  d.out.actions.push_front([&] { drawn_from = d.s.mazzo; });
+  run(d);
+  EXPECT_EQ(d.s.cartaro, 2);
+  EXPECT_EQ(d.s.numero_mano, 1);
+  EXPECT_EQ(d.s.punti_totali[1], 0);
+  EXPECT_EQ(d.s.punti_mano[1][2], 0);
+  EXPECT_NE(d.s.mazzo, drawn_from);
+  EXPECT_EQ(d.s.squadre[0], "TU-NORD");
+  EXPECT_EQ(d.s.squadre[1], "OVEST-EST");
+  EXPECT_EQ(only(d.log, {"names", "continue", "replay", "clear", "dealer_screen", "deal_begins",
+                         "ritardo 0.01", "Set_Write", "deal_over"}),
+            (Log{"names 1", "continue 0", "clear", "dealer_screen", "continue 0", "names 1",
+                 "names 0", "names 0", "names 0", "names 0", "replay 0", "deal_begins",
+                 "ritardo 0.01", "clear", "Set_Write", "deal_over", "ritardo 0.01"}));
+}
+
+// A kept hand is dealt again without a draw, and counted in row 0; the hands after it are
+// shuffled, and their dealer moves on.
+TEST(Match, AReplayedHandIsTheKeptOneAndOnlyOnce) {
+  Kept d;
+  d.then([&] {
+    EXPECT_EQ(d.s.calate[2][14], 1) << d.table_text(2);
+    EXPECT_EQ(d.s.n_calate[2], 15);
+    EXPECT_EQ(d.s.numero_mano, 0);
+    EXPECT_EQ(d.s.punti_mano[0], (std::array<std::int16_t, 3>{0, -230, 535}));
+    EXPECT_EQ(d.s.punti_totali, (std::array<std::int16_t, 3>{0, -230, 535}));
+    EXPECT_TRUE(d.out.replay) << "choosing again during the hand changes nothing";
+    EXPECT_EQ(only(d.log, {"dealer", "replay", "uncheck", "names", "continue", "scopro", "panel",
+                           "scoreboard"}),
+              (Log{"names 1", "continue 0", "scopro_carte", "panel_line", "panel_opens",
+                   "scoreboard", "continue 1"}));
+    EXPECT_EQ(d.log.back(), "default_pointer");
+  });
+  d.keep_on();
+  run(d);
+  EXPECT_FALSE(d.out.replay);
+  EXPECT_EQ(only(d.log, {"uncheck", "replay"}), (Log{"uncheck_replay", "replay 0"}));
+  EXPECT_EQ(d.s.numero_mano, 1);
+  EXPECT_EQ(d.s.cartaro, 2);
+  EXPECT_EQ(d.s.punti_totali[2], 535);
+  int in_place = 0;
+  for (int slot = 1; slot <= 52; ++slot) in_place += d.s.mazzo[slot] == slot;
+  EXPECT_LT(in_place, 10) << "the next hand is shuffled";
+}
+
+// Asked for during the draw, when the kept deck is gone: the deck of the draw itself is dealt.
+TEST(Match, AReplayMarkedDuringTheDrawDealsTheDeckOfTheDraw) {
+  Deal d;
+  draw_for_dealer(d);
+  std::array<std::int16_t, kCards + 1> drawn_from{};
+  d.out.actions.push_front([&] {
+    d.out.replay = true;
+    drawn_from = d.s.mazzo;
+  });
+  run(d);
+  EXPECT_EQ(d.s.mazzo, drawn_from);
+  EXPECT_EQ(d.s.numero_mano, 1);
+}
+
+// The dealer moves on seat by seat, whoever went out, and the seat after it opens.
+TEST(Match, TheDealerMovesOn) {
+  for (int dealer = 1; dealer <= 4; ++dealer) {
+    for (int out = 1; out <= 4; ++out) {
+      Deal d;
+      d.s.cartaro = static_cast<std::uint8_t>(dealer);
+      d.s.di_turno = static_cast<std::uint8_t>(out);
+      d.rules.match.next_hand();
+      EXPECT_EQ(d.s.cartaro, dealer % 4 + 1);
+      EXPECT_EQ(d.s.di_turno, (dealer + 1) % 4 + 1);
+    }
+  }
+}
+
+// A match is over as soon as a team stands at 1500, whoever leads.
+TEST(Match, EndsAtFifteenHundred) {
+  const struct {
+    std::int16_t team1;
+    std::int16_t team2;
+    bool over;
+  } kCases[] = {{1499, 1499, false}, {1500, 0, true},    {0, 1500, true},    {-50, 1500, true},
+                {1600, 1600, true},  {1500, 1500, true}, {-900, -20, false}, {1515, -1, true}};
+  for (const auto& c : kCases) {
+    Deal d;
+    d.s.punti_totali = {0, c.team1, c.team2};
+    d.rules.match.end_hand();
+    EXPECT_EQ(d.rules.match.is_over(), c.over) << c.team1 << ' ' << c.team2;
+    EXPECT_EQ(d.log.back(), c.over ? "continue 0" : "continue 1");
+  }
+}
+
+}  // namespace
+}  // namespace tombrello::test

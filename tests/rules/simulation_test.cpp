@@ -1,0 +1,176 @@
+#include <gtest/gtest.h>
+
+#include "match/state_check.h"
+#include "tests/rules/deal.h"
+#include "tools/simulation/simulation.h"
+
+namespace tombrello::test {
+namespace {
+
+constexpr int kMostTurns = 2000;
+
+// Whatever seat 1 does, the state stays whole after every turn, and hands come to their end.
+TEST(Simulation, TwoThousandHandsWithEachKindOfPlayerStayWhole) {
+  for (const ScriptKind kind : {ScriptKind::simple, ScriptKind::melder, ScriptKind::wild}) {
+    SCOPED_TRACE(static_cast<int>(kind));
+    Simulation simulation(kind, 1);
+    int unfinished = 0;
+    int reshuffles = 0;
+    for (int hand = 1; hand <= 2000; ++hand) {
+      const auto result = simulation.play_hand(kMostTurns, true);
+      ASSERT_EQ(result.fault, "") << "hand " << hand << ", turn " << result.turns;
+      unfinished += !result.finished;
+      reshuffles += result.reshuffles;
+    }
+    EXPECT_LT(unfinished, 20) << "a hand that nobody can end is a rarity";
+    EXPECT_GT(reshuffles, 50);
+  }
+}
+
+// One number stands for 300 hands, turn by turn. A commit that changes how the game is played
+// changes it on purpose, and says so.
+TEST(Simulation, TheSignatureOfThreeHundredHands) {
+  Simulation simulation(ScriptKind::melder, 1);
+  Simulation beside_it(ScriptKind::melder, 1);
+  Simulation another(ScriptKind::melder, 2);
+  for (int hand = 0; hand < 300; ++hand) {
+    simulation.play_hand(kMostTurns, false);
+    another.play_hand(kMostTurns, false);
+    beside_it.play_hand(kMostTurns, false);
+  }
+  EXPECT_EQ(simulation.signature(), 8666049454377884777U);
+  EXPECT_EQ(beside_it.signature(), simulation.signature());
+  EXPECT_NE(another.signature(), simulation.signature());
+}
+
+/// An engine on its own, played turn by turn by a script.
+struct Engine : Deal {
+  Engine(ScriptKind kind, std::uint64_t seed) : Deal(seed), script(make_script(kind, seed)) {
+    out.otherwise = [this] {
+      if (s.azione == kDealerDraw) {
+        s.carta_scelta = static_cast<std::uint8_t>(s.mazzo[s.indice_estrazione]);
+      } else {
+        act();
+      }
+    };
+    act = [this] { script->act(s, m); };
+    rules.match.prepare_match();
+    rules.match.start_hand();
+  }
+  bool turn() {
+    log.clear();
+    if (turns++ > 0) rules.match.pass_turn();
+    const bool over = rules.match.play_turn();
+    if (over) {
+      rules.match.end_hand();
+      rules.match.next_hand();
+      rules.match.start_hand();
+      turns = 0;
+    }
+    return over;
+  }
+  auto what_lies_where() const {
+    return std::tuple(s.mazzo, s.mano, s.calate, s.n_calate, s.pozzo, s.n_pozzo, s.punti_totali);
+  }
+  std::unique_ptr<Script> script;
+  std::function<void()> act;
+  int turns = 0;
+};
+
+// Engines know nothing of one another, even when one plays inside the pauses of the other.
+TEST(Engines, OneInsideThePausesOfAnotherChangesNothing) {
+  Engine alone(ScriptKind::melder, 3);
+  Engine inner_alone(ScriptKind::melder, 4);
+  Engine outer(ScriptKind::melder, 3);
+  Engine inner(ScriptKind::melder, 4);
+  int inner_turns = 0;
+  outer.out.in_pause = [&] {
+    inner.turn();
+    ++inner_turns;
+  };
+  for (int n = 0; n < 400; ++n) {
+    outer.turn();
+    alone.turn();
+    ASSERT_EQ(outer.what_lies_where(), alone.what_lies_where());
+  }
+  for (int n = 0; n < inner_turns; ++n) inner_alone.turn();
+  EXPECT_EQ(inner.what_lies_where(), inner_alone.what_lies_where());
+  EXPECT_GT(inner_turns, 400);
+}
+
+// A storm of codes, sensible or not, at every x, in the wait and in the pauses: the state stays
+// whole and the hands come to their end.
+TEST(Storm, AnyCodeAtAnyMomentHarmsNothing) {
+  Engine d(ScriptKind::melder, 5);
+  std::mt19937 engine(9);
+  const auto post_anything = [&] {
+    d.s.x_click = static_cast<float>(static_cast<int>(engine() % 2000) - 600) / 2;
+    d.s.azione = static_cast<std::uint8_t>(engine() % 12);
+  };
+  bool stormy = false;  // other turns are played sensibly, so that there are melds to storm at
+  int posts = 0;
+  d.out.in_pause = post_anything;
+  d.act = [&] {
+    ++posts;
+    if (stormy) {
+      post_anything();
+    } else {
+      d.script->act(d.s, d.m);
+    }
+  };
+  int hands = 0;
+  int melds = 0;
+  while (posts < 60000) {
+    const State before = d.s;
+    stormy = engine() % 2 == 0;
+    const bool over = d.turn();
+    hands += over;
+    melds += d.s.n_calate[1] != before.n_calate[1] && !over;
+    ASSERT_EQ(over ? "" : check_state(d.s, {}), "") << "post " << posts;
+  }
+  EXPECT_GT(hands, 50);
+  EXPECT_GT(melds, 50);
+}
+
+// The check itself finds what it is there for.
+TEST(StateCheck, FindsBrokenStates) {
+  Simulation simulation(ScriptKind::melder, 1);
+  while (simulation.state().n_calate[2] == 0 || simulation.state().n_pozzo < 3) {
+    simulation.play_hand(30, true);
+  }
+  const State whole = simulation.state();
+  ASSERT_EQ(check_state(whole, {}), "");
+  const std::vector<std::pair<const char*, std::function<void(State&)>>> kFaults = {
+      {"a card changed into another", [](State& s) { s.pozzo[0] = s.pozzo[0] % 52 + 1; }},
+      {"a card lost from the pile", [](State& s) { --s.n_pozzo; }},
+      {"a stock card skipped", [](State& s) { ++s.tallone; }},
+      {"stock below its first slot", [](State& s) { s.tallone = 53; }},
+      {"too many cards in a hand", [](State& s) { s.n_mano[3] = 14; }},
+      {"a hole in a hand", [](State& s) { s.mano[3][1] = 0; }},
+      {"a card still selected", [](State& s) { s.mano[1][1] = 1003; }},
+      {"a left-over behind the hand", [](State& s) { s.mano[1][14] = 3; }},
+      {"a stale presence string", [](State& s) { s.presenze[2].clear(); }},
+      {"a list that is too long", [](State& s) { s.n_calate[2] = 31; }},
+      {"a list that isn't closed", [](State& s) { --s.n_calate[2]; }},
+      {"a meld of two", [](State& s) { s.calate[2][3] = kSentinel; }},
+      {"a hole in a meld", [](State& s) { s.calate[2][1] = 0; }},
+      {"something at position 0", [](State& s) { s.calate[2][0] = 5; }},
+      {"a card both drawn and left", [](State& s) { s.mano[1][++s.n_mano[1]] = s.pozzo[0]; }},
+  };
+  for (const auto& [what, breaks] : kFaults) {
+    State broken = whole;
+    breaks(broken);
+    EXPECT_NE(check_state(broken, {}), "") << what;
+  }
+  // A hand may end without a discard, but only then.
+  State no_discard = whole;
+  const int top = no_discard.pozzo[--no_discard.n_pozzo];
+  const int seat = no_discard.n_mano[2] < 13 ? 2 : 3;
+  no_discard.mano[seat][++no_discard.n_mano[seat]] = static_cast<std::int16_t>(top);
+  no_discard.presenze[seat].mark(top);
+  EXPECT_NE(check_state(no_discard, {}), "");
+  EXPECT_EQ(check_state(no_discard, {.hand_over = true}), "");
+}
+
+}  // namespace
+}  // namespace tombrello::test
