@@ -20,6 +20,7 @@ void run(const std::shared_ptr<typename Media::Box>& box, std::shared_ptr<SdlMix
       } catch (const std::exception&) {
         // Out of memory: from here on it is silent.
       }
+      SdlMixerDevice::leave_thread();
       device.reset();
       box->finish();
     }).detach();

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 constexpr int kRate = 44100;
 constexpr int kFrames = 1024;    // 23 ms: early enough for a rustle, rare enough to cost little
 constexpr int kVoices = 16;      // waves that sound at the same time
-constexpr int kTuneVolume = 80;  // of 128: behind the cards
+constexpr int kTuneVolume = 64;  // of 128: behind the cards
 constexpr std::uintmax_t kMostWave = 8 << 20;
 constexpr std::uintmax_t kMostTune = 1 << 20;
 
@@ -64,8 +64,9 @@ void TuneDeleter::operator()(_Mix_Music* tune) const {
   Mix_FreeMusic(tune);
 }
 
+// Nobody else in the process uses the library, and hints go with it alone.
 SdlMixerDevice::~SdlMixerDevice() {
-  if (initialised_) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  SDL_Quit();
 }
 
 SdlMixerDevice::Lease SdlMixerDevice::lease() {
@@ -74,6 +75,10 @@ SdlMixerDevice::Lease SdlMixerDevice::lease() {
   if (failed_) return nullptr;
   ++leases_;
   return Lease(this);
+}
+
+void SdlMixerDevice::leave_thread() {
+  SDL_TLSCleanup();
 }
 
 void SdlMixerDevice::release() {

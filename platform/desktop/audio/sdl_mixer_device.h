@@ -38,6 +38,9 @@ class SdlMixerDevice {
   /// Null where there is no audio, which is found out once.
   Lease lease();
 
+  /// For a thread that has called the device, at its end: what is kept for it is given back.
+  static void leave_thread();
+
   // All calls below rely on a lease.
 
   /// Null if the file isn't a wave file of a few megabytes at most.
