@@ -91,11 +91,11 @@ std::vector<Event> instrument_track(const std::string& name, const std::vector<P
 
 Instrument instrument(const std::string& name) {
   static const std::map<std::string, Instrument> known = {
-      {"accordion", {21, 70, 60}},  {"bassoon", {70, 84, 72}},  {"celesta", {8, 88, 76}},
+      {"accordion", {21, 92, 60}},  {"bassoon", {70, 104, 72}}, {"celesta", {8, 104, 76}},
       {"cello", {42, 84, 78}},      {"clarinet", {71, 84, 52}}, {"flute", {73, 88, 54}},
-      {"guitar", {24, 92, 48}},     {"harp", {46, 92, 80}},     {"harpsichord", {6, 76, 74}},
+      {"guitar", {24, 98, 48}},     {"harp", {46, 86, 80}},     {"harpsichord", {6, 118, 74}},
       {"musicbox", {10, 88, 64}},   {"oboe", {68, 74, 60}},     {"piano", {0, 90, 64}},
-      {"pizzicato", {45, 92, 70}},  {"recorder", {74, 84, 58}}, {"strings", {48, 68, 66}},
+      {"pizzicato", {45, 92, 70}},  {"recorder", {74, 84, 58}}, {"strings", {48, 58, 66}},
       {"vibraphone", {11, 84, 56}}, {"violin", {40, 78, 50}},   {"contrabass", {43, 92, 66}},
   };
   const auto found = known.find(name);

@@ -1,0 +1,343 @@
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <csignal>
+#include <numbers>
+#include <random>
+
+#include "platform/desktop/audio/sdl_audio.h"
+#include "tests/sound/disk_audio.h"
+#include "tools/music/arrange.h"
+#include "tools/sounds/sounds.h"
+
+namespace tombrello {
+namespace {
+
+using Command = MediaControl::Command;
+
+struct Ends : MediaEvents {
+  std::function<void(int)> told = [](int) {};
+  std::vector<int> codes;
+  void media_done(int code) override {
+    codes.push_back(code);
+    told(code);
+  }
+};
+
+/// The sound of the desktop on a device that writes down what is heard.
+struct Heard {
+  explicit Heard(int haste) : disk(haste) {
+    disk.put("sounds/carta.wav", sounds::wave_file(sounds::rustle()));
+    disk.put("sounds/Notify.wav", sounds::wave_file(sounds::notice()));
+    disk.put("sounds/beep.wav", sounds::wave_file(sounds::beep()));
+    disk.put("music/low.mid", tune("a4:2", 120));
+    disk.put("music/high.mid", tune("e5:2", 120));
+    disk.put("music/long.mid", tune("a4:1 | a4:1 | a4:1 | a4:1 | a4:1 | a4:1", 60));
+    audio.set_events(&ends);
+  }
+
+  static std::string tune(const std::string& notes, int tempo) {
+    std::string filled = notes;
+    if (notes.ends_with(":2")) filled += " r:2";
+    return music::midi_file(
+        music::arrange(music::read_score("tempo " + std::to_string(tempo) + "\nsection a\nmelody " +
+                                         filled + "\nplay a melody=flute\n")));
+  }
+
+  void open(MediaControl& device, const std::string& file) {
+    device.command(Command::close);
+    device.set_file_name(file);
+    device.command(Command::open);
+  }
+  void play(const std::string& file) {
+    open(audio.sequencer(), file);
+    audio.sequencer().command(Command::play);
+  }
+  void await_wave_device() {
+    ASSERT_TRUE(disk.await([this] {
+      const std::lock_guard lock(audio.wave().box()->mutex);
+      return audio.wave().box()->beeps;
+    }));
+    disk.pass(0.2);
+  }
+  /// Waits for the end of what plays; false if it doesn't come.
+  bool await_end() {
+    return disk.await([this] { return woken.exchange(false); });
+  }
+
+  DiskAudio disk;
+  Ends ends;
+  std::atomic<bool> woken = false;
+  std::atomic<int> system_beeps = 0;
+  SdlAudio audio{disk.folder(), [this] { woken = true; }, [this] { ++system_beeps; }};
+};
+
+double loudness(const std::vector<double>& samples, double from, double to) {
+  const auto at = [&](double seconds) {
+    return std::min(samples.size(), static_cast<std::size_t>(seconds * DiskAudio::kRate));
+  };
+  double power = 0;
+  for (std::size_t i = at(from); i < at(to); ++i) power += samples[i] * samples[i];
+  return std::sqrt(power / std::max(1.0, (to - from) * DiskAudio::kRate));
+}
+
+/// Where sound begins, in seconds: at first, and after each silence that lasts so long.
+std::vector<double> onsets(const std::vector<double>& samples, double silence = 0.05) {
+  std::vector<double> found;
+  double last = -silence;
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    const double now = static_cast<double>(i) / DiskAudio::kRate;
+    if (std::abs(samples[i]) < 0.003) continue;
+    if (now - last >= silence) found.push_back(now);
+    last = now;
+  }
+  return found;
+}
+
+/// How much of a pitch there is in a stretch of a quarter of a second.
+double strength(const std::vector<double>& samples, double from, double hertz) {
+  const auto start = static_cast<std::size_t>(from * DiskAudio::kRate);
+  const std::size_t length = DiskAudio::kRate / 4;
+  double real = 0, imaginary = 0;
+  for (std::size_t i = 0; i < length && start + i < samples.size(); ++i) {
+    const double turn = 2 * std::numbers::pi * hertz * static_cast<double>(i) / DiskAudio::kRate;
+    real += samples[start + i] * std::cos(turn);
+    imaginary += samples[start + i] * std::sin(turn);
+  }
+  return std::hypot(real, imaginary) / static_cast<double>(length);
+}
+
+constexpr double kLow = 440, kHigh = 659.26;
+
+TEST(Waves, EachPlayIsOneRustle) {
+  Heard heard(6);
+  heard.open(heard.audio.wave(), "sounds/carta.wav");
+  heard.audio.start();
+  heard.await_wave_device();
+  for (int i = 0; i < 12; ++i) {
+    heard.audio.wave().command(Command::play);
+    heard.disk.pass(0.5);
+  }
+  EXPECT_EQ(onsets(heard.disk.heard()).size(), 12U);
+}
+
+TEST(Waves, WhatWasToldBeforeTheDeviceStandsIsHeardOnceItDoes) {
+  Heard heard(6);
+  heard.open(heard.audio.wave(), "sounds/carta.wav");
+  heard.audio.wave().command(Command::play);
+  EXPECT_EQ(heard.disk.now(), 0) << "the device was opened before it may be";
+  heard.audio.start();
+  heard.await_wave_device();
+  heard.disk.pass(0.3);
+  EXPECT_EQ(onsets(heard.disk.heard()).size(), 1U);
+}
+
+TEST(Waves, ClosingLetsASoundFinishAndTheNextOneBegins) {
+  Heard heard(2);
+  heard.audio.start();
+  heard.await_wave_device();
+  heard.open(heard.audio.wave(), "sounds/Notify.wav");
+  heard.audio.wave().command(Command::play);
+  heard.disk.pass(0.1);
+  heard.open(heard.audio.wave(), "sounds/carta.wav");
+  heard.disk.pass(1.2);
+  heard.audio.wave().command(Command::play);
+  heard.disk.pass(0.4);
+  const auto samples = heard.disk.heard();
+  const auto begun = onsets(samples);
+  ASSERT_EQ(begun.size(), 2U);  // the signal's two notes run into each other
+  EXPECT_GT(strength(samples, begun[0] + 0.3, 880), 0.01) << "its second note was cut off";
+}
+
+TEST(Waves, FilesThatAreNoneAreSilent) {
+  Heard heard(6);
+  heard.disk.put("sounds/broken.wav", "RIFF and nothing more");
+  heard.disk.put("sounds/empty.wav", "");
+  std::filesystem::create_directories(heard.disk.folder() / "sounds/folder.wav");
+  heard.audio.start();
+  heard.await_wave_device();
+  for (const char* name : {"broken", "empty", "folder", "missing"}) {
+    heard.open(heard.audio.wave(), std::string("sounds/") + name + ".wav");
+    heard.audio.wave().command(Command::play);
+  }
+  heard.disk.pass(0.3);
+  EXPECT_EQ(onsets(heard.disk.heard()).size(), 0U);
+  heard.audio.beeper().beep();
+  heard.disk.pass(0.3);
+  EXPECT_EQ(onsets(heard.disk.heard()).size(), 1U);
+  EXPECT_EQ(heard.system_beeps, 0);
+}
+
+TEST(Tunes, NotesSoundAtTheirPitchAndTheNextTuneFollows) {
+  Heard heard(6);
+  heard.audio.start();
+  heard.await_wave_device();
+  heard.ends.told = [&](int) {
+    if (heard.ends.codes.size() == 1) heard.play("music/high.mid");
+  };
+  heard.play("music/low.mid");
+  ASSERT_TRUE(heard.await_end());
+  EXPECT_TRUE(heard.ends.codes.empty()) << "told on another thread";
+  heard.audio.deliver();
+  ASSERT_TRUE(heard.await_end());
+  heard.audio.deliver();
+  EXPECT_EQ(heard.ends.codes, (std::vector<int>{1, 1}));
+  const auto samples = heard.disk.heard();
+  const auto begun = onsets(samples, 0.5);
+  ASSERT_EQ(begun.size(), 2U);
+  EXPECT_GT(strength(samples, begun[0] + 0.2, kLow), 10 * strength(samples, begun[0] + 0.2, kHigh));
+  EXPECT_GT(strength(samples, begun[1] + 0.2, kHigh), 10 * strength(samples, begun[1] + 0.2, kLow));
+}
+
+TEST(Tunes, AreHeardToStopAtOnceAndAStopIsNoEnd) {
+  Heard heard(1);
+  heard.audio.start();
+  heard.await_wave_device();
+  heard.play("music/long.mid");
+  heard.disk.pass(1.0);
+  const double stopped = heard.disk.now();
+  heard.audio.sequencer().command(Command::close);
+  heard.disk.pass(0.8);
+  const auto samples = heard.disk.heard();
+  EXPECT_GT(loudness(samples, stopped - 0.3, stopped - 0.1), 0.003);
+  EXPECT_LT(loudness(samples, stopped + 0.3, stopped + 0.7), 0.0001);
+  heard.audio.deliver();
+  EXPECT_TRUE(heard.ends.codes.empty());
+}
+
+TEST(Tunes, TheEndOfAnOlderPlayMeansNothing) {
+  Heard heard(6);
+  heard.audio.start();
+  heard.play("music/low.mid");
+  ASSERT_TRUE(heard.await_end());
+  heard.play("music/long.mid");  // chosen while the end of the other was on its way
+  heard.audio.deliver();
+  EXPECT_TRUE(heard.ends.codes.empty());
+  heard.play("music/low.mid");
+  ASSERT_TRUE(heard.await_end());
+  heard.audio.sequencer().command(Command::close);
+  heard.audio.deliver();
+  EXPECT_TRUE(heard.ends.codes.empty());
+}
+
+TEST(Tunes, FilesThatAreNoneAreSilentAndNeverEnd) {
+  Heard heard(6);
+  const std::string whole = Heard::tune("a4:2", 120);
+  heard.disk.put("music/empty.mid", "");
+  heard.disk.put("music/broken.mid", whole.substr(0, whole.size() / 2));
+  heard.disk.put("music/text.mid", "MThd? No.");
+  heard.disk.put("music/huge.mid", whole);
+  std::filesystem::resize_file(heard.disk.folder() / "music/huge.mid", 1UL << 33);
+  std::filesystem::create_directories(heard.disk.folder() / "music/folder.mid");
+  heard.audio.start();
+  for (const char* name : {"empty", "broken", "text", "huge", "folder", "missing"}) {
+    heard.play(std::string("music/") + name + ".mid");
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    EXPECT_FALSE(heard.woken) << name;
+  }
+  EXPECT_EQ(onsets(heard.disk.heard()).size(), 0U);
+  heard.play("music/low.mid");
+  EXPECT_TRUE(heard.await_end());
+}
+
+TEST(Tunes, ANoteThatNeverEndsIsEnded) {
+  Heard heard(6);
+  std::string stuck = Heard::tune("a4:2", 120);
+  const auto off = stuck.find('\x80', stuck.find("MTrk", 40));
+  stuck[off] = '\xb0';  // the end of the note becomes a controller without effect
+  stuck[off + 1] = 3;
+  const auto all_off = stuck.rfind('\xb0');
+  stuck[all_off + 1] = 3;
+  heard.disk.put("music/stuck.mid", stuck);
+  heard.audio.start();
+  heard.play("music/stuck.mid");
+  ASSERT_TRUE(heard.await_end());
+  heard.audio.deliver();
+  EXPECT_EQ(heard.ends.codes, std::vector<int>{1});
+}
+
+TEST(Tunes, CommandsInAnyOrderLeaveItWhole) {
+  Heard heard(6);
+  heard.audio.start();
+  std::mt19937 chance(5);
+  const char* const files[] = {"low", "high", "long", "missing"};
+  for (int i = 0; i < 300; ++i) {
+    MediaControl& device = chance() % 3 == 0 ? static_cast<MediaControl&>(heard.audio.wave())
+                                             : heard.audio.sequencer();
+    if (chance() % 2 == 0)
+      device.set_file_name(std::string("music/") + files[chance() % 4] + ".mid");
+    device.command(static_cast<Command>(chance() % 3));
+    if (chance() % 4 == 0) heard.audio.beeper().beep();
+    if (heard.woken.exchange(false)) heard.audio.deliver();
+    std::this_thread::sleep_for(std::chrono::milliseconds(chance() % 12));
+  }
+  heard.play("music/low.mid");
+  heard.ends.codes.clear();
+  EXPECT_TRUE(heard.disk.await([&] {
+    heard.audio.deliver();
+    return !heard.ends.codes.empty();
+  }));
+}
+
+TEST(NoAudio, WithoutADeviceTheSystemBeepsAndAllElseIsSilent) {
+  Heard heard(1);
+  setenv("SDL_AUDIODRIVER", "none such", 1);
+  heard.audio.start();
+  ASSERT_TRUE(heard.disk.await([&] {
+    const std::lock_guard lock(heard.audio.wave().box()->mutex);
+    return heard.audio.wave().box()->finished;
+  }));
+  heard.play("music/low.mid");
+  heard.open(heard.audio.wave(), "sounds/carta.wav");
+  heard.audio.wave().command(Command::play);
+  heard.audio.beeper().beep();
+  EXPECT_EQ(heard.system_beeps, 1);
+  heard.audio.deliver();
+  EXPECT_TRUE(heard.ends.codes.empty());
+}
+
+TEST(NoAudio, AServerThatHangsHoldsNothingUp) {
+  Heard heard(1);
+  const std::string path = (heard.disk.folder() / "server").string();
+  const int server = socket(AF_UNIX, SOCK_STREAM, 0);
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  path.copy(address.sun_path, sizeof address.sun_path - 1);
+  ASSERT_EQ(bind(server, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  ASSERT_EQ(listen(server, 8), 0);  // takes calls and never answers
+  setenv("SDL_AUDIODRIVER", "pulseaudio", 1);
+  setenv("PULSE_SERVER", ("unix:" + path).c_str(), 1);
+  {
+    SdlAudio audio(
+        heard.disk.folder(), [] {}, [&] { ++heard.system_beeps; });
+    audio.start();
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    for (int i = 0; i < 10'000; ++i) heard.open(audio.wave(), "sounds/carta.wav");
+    audio.sequencer().command(Command::play);
+    audio.beeper().beep();
+    const std::lock_guard lock(audio.wave().box()->mutex);
+    EXPECT_FALSE(audio.wave().box()->finished) << "the server didn't hang: nothing was tried";
+    EXPECT_LE(audio.wave().box()->jobs.size(), 2U);
+  }
+  EXPECT_EQ(heard.system_beeps, 1);
+  close(server);
+}
+
+TEST(Signals, TheProgramStillEndsWhenAskedTo) {
+  Heard heard(6);
+  heard.audio.start();
+  heard.await_wave_device();
+  for (const int signal : {SIGINT, SIGTERM}) {
+    struct sigaction action {};
+    ASSERT_EQ(sigaction(signal, nullptr, &action), 0);
+    EXPECT_EQ(action.sa_handler, SIG_DFL);
+  }
+}
+
+}  // namespace
+}  // namespace tombrello
