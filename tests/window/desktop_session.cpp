@@ -136,7 +136,7 @@ void DesktopSession::start_quick(Quick quick) {
   start({TOMBRELLO_QUICK, folder, std::to_string(quick.clock), std::to_string(quick.deal),
          std::to_string(quick.turns)});
   wait_until("the opening picture",
-             [](const View& v) { return v.number("opening") == 1 && v.number("bar") > 0; });
+             [](const View& v) { return v.number("opening") == 1 && v.number("ready") == 1; });
 }
 
 void DesktopSession::start_shipped() {

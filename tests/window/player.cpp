@@ -122,10 +122,10 @@ void PlayingSession::wait_for_turn() {
 
 // A press in the pause that ends the deal is lost, so that it may take two.
 void PlayingSession::draw(float x) {
-  for (int tries = 0; tries < 5; ++tries) {
+  for (int tries = 0; tries < 10; ++tries) {
     press(x, 300);
     const auto drawn = [](const View& v) { return v.number("drawn") == 1; };
-    if (comes_true(drawn, Milliseconds(2000))) return;
+    if (comes_true(drawn, Milliseconds(800))) return;
   }
   throw std::runtime_error("no card can be drawn");
 }

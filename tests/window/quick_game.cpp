@@ -133,6 +133,7 @@ std::string screen_line() {
     if (const auto* frame = qobject_cast<const QMainWindow*>(widget)) {
       line.add("width", frame->width()).add("height", frame->height());
       line.add("bar", frame->centralWidget()->y()).add("minimised", frame->isMinimized());
+      line.add("ready", frame->isMaximized() && frame->isActiveWindow());
       add_actions(line, *frame->findChild<QMenuBar*>());
     } else if (const auto* menu = qobject_cast<const QMenu*>(widget)) {
       add_actions(line, *menu);

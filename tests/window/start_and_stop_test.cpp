@@ -27,7 +27,8 @@ class Stop : public PlayingSession,
         press(400, 300);
         return wait_for("index", 2);
       case Moment::deal:
-        start_quick({.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .deal = 2});
+        start_quick(
+            {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .deal = 2});
         dismiss_opening();
         for (int card = 1; card <= 4; ++card) {
           press(400, 300);
