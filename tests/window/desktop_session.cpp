@@ -1,0 +1,319 @@
+#include "desktop_session.h"
+
+#include <signal.h>
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace tombrello {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+namespace files = std::filesystem;
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kPatience = 5;
+#else
+constexpr int kPatience = 1;
+#endif
+
+constexpr const char* kScreenSize = "1024x768x24";
+
+// Two keys, and nothing else of the window manager's own.
+constexpr const char* kManagerFile = R"(<?xml version="1.0"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+<focus><focusNew>yes</focusNew></focus>
+<keyboard>
+<keybind key="A-F4"><action name="Close"/></keybind>
+<keybind key="A-F10"><action name="ToggleMaximize"/></keybind>
+</keyboard>
+</openbox_config>
+)";
+
+void require_tools() {
+  for (const char* tool : {"Xvfb", "openbox", "xdotool", "import", "xclip"}) {
+    if (run({"which", tool}, {}).status != 0) {
+      throw std::runtime_error(std::string("these tests need ") + tool + ": tools/setup.sh check");
+    }
+  }
+}
+
+}  // namespace
+
+void View::take(const std::string& line) {
+  std::istringstream words(line);
+  std::string kind;
+  std::getline(words, kind, '\t');
+  Told told;
+  for (std::string word; std::getline(words, word, '\t');) {
+    const auto equals = word.find('=');
+    told[word.substr(0, equals)] = word.substr(equals + 1);
+  }
+  told_[kind] = told;
+}
+
+const std::string* View::find(const std::string& key) const {
+  for (const auto& [kind, told] : told_) {
+    if (const auto found = told.find(key); found != told.end()) return &found->second;
+  }
+  return nullptr;
+}
+
+std::string View::text(const std::string& key) const {
+  const std::string* found = find(key);
+  return found == nullptr ? "" : *found;
+}
+
+std::vector<int> View::numbers(const std::string& key) const {
+  std::vector<int> list;
+  std::istringstream words(text(key));
+  for (std::string word; std::getline(words, word, ',');) list.push_back(std::stoi(word));
+  return list;
+}
+
+std::string View::everything() const {
+  std::string all;
+  for (const auto& [kind, told] : told_) {
+    for (const auto& [key, value] : told) {
+      if (key != "deck") all += key + '=' + value + ' ';
+    }
+  }
+  return all;
+}
+
+int Shot::pixel(int x, int y) const {
+  const auto at = static_cast<std::size_t>(y * width + x) * 3;
+  auto byte = [&](std::size_t k) { return static_cast<unsigned char>(rgb.at(at + k)); };
+  return byte(0) << 16 | byte(1) << 8 | byte(2);
+}
+
+void DesktopSession::SetUp() {
+  require_tools();
+  std::string pattern = (files::temp_directory_path() / "tombrello-XXXXXX").string();
+  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the test");
+  folder = pattern;
+  // The program's own ways alone decide: nothing of the machine's session reaches it.
+  environment = {"HOME=" + pattern, "XDG_RUNTIME_DIR=" + pattern,
+                 "LC_ALL=C.UTF-8",  "SDL_AUDIODRIVER=dummy",
+                 "XDG_DATA_HOME",   "XDG_CONFIG_HOME",
+                 "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
+                 "QT_QPA_PLATFORM", "DISPLAY"};
+  start_screen();
+}
+
+void DesktopSession::start_screen() {
+  screen_ =
+      std::make_unique<Child>(std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0",
+                                                       kScreenSize, "-nolisten", "tcp", "-noreset"},
+                              environment);
+  const auto end = Clock::now() + Milliseconds(20000);
+  while (screen_->out.find('\n') == std::string::npos && Clock::now() < end) {
+    screen_->listen(Milliseconds(100));
+  }
+  if (screen_->out.empty()) throw std::runtime_error("Xvfb doesn't start: " + screen_->err);
+  environment.back() = "DISPLAY=:" + std::to_string(std::stoi(screen_->out));
+  std::ofstream(folder / "rc.xml") << kManagerFile;
+  manager_ = std::make_unique<Child>(
+      std::vector<std::string>{"openbox", "--config-file", folder / "rc.xml"}, environment);
+  while (xdo({"get_desktop"}).status != 0) {
+    if (Clock::now() > end) throw std::runtime_error("openbox doesn't start");
+  }
+}
+
+void DesktopSession::TearDown() {
+  if (HasFailure() && game) std::fputs((view.everything() + game->err + "\n").c_str(), stderr);
+  game.reset();
+  manager_.reset();
+  screen_.reset();
+  std::error_code ignored;
+  files::remove_all(folder, ignored);
+}
+
+void DesktopSession::start_quick(Quick quick) {
+  start({TOMBRELLO_QUICK, folder, std::to_string(quick.clock), std::to_string(quick.deal),
+         std::to_string(quick.turns)});
+  wait_until("the opening picture",
+             [](const View& v) { return v.number("opening") == 1 && v.number("ready") == 1; });
+}
+
+void DesktopSession::start_shipped() {
+  files::copy_file(TOMBRELLO, folder / "tombrello", files::copy_options::overwrite_existing);
+  start({folder / "tombrello"});
+}
+
+void DesktopSession::start(const std::vector<std::string>& words) {
+  view = {};
+  read_ = 0;
+  game = std::make_unique<Child>(words, environment);
+  const auto end = Clock::now() + kPatience * Milliseconds(20000);
+  for (window.clear(); window.empty();) {
+    if (Clock::now() > end) throw std::runtime_error("no window: " + game->err);
+    window = xdo({"search", "--onlyvisible", "--name", "^Frassivo - Tombrello$"}).out;
+    window = window.substr(0, window.find('\n'));
+    read_view();
+  }
+}
+
+void DesktopSession::read_view() {
+  game->listen(Milliseconds(10));
+  for (std::size_t end; (end = game->out.find('\n', read_)) != std::string::npos;) {
+    view.take(game->out.substr(read_, end - read_));
+    read_ = end + 1;
+    if (!view.text("fault").empty()) throw std::runtime_error(view.text("fault"));
+  }
+}
+
+bool DesktopSession::comes_true(const std::function<bool(const View&)>& holds, Milliseconds most) {
+  const auto end = Clock::now() + kPatience * most;
+  for (read_view(); !holds(view); read_view()) {
+    if (game->wait(Milliseconds(0))) throw std::runtime_error("it ended by itself: " + game->err);
+    if (Clock::now() > end) return false;
+  }
+  return true;
+}
+
+void DesktopSession::wait_until(const std::string& what,
+                                const std::function<bool(const View&)>& holds, Milliseconds most) {
+  if (!comes_true(holds, most)) throw std::runtime_error("in vain waited for " + what);
+}
+
+void DesktopSession::wait_for(const std::string& key, int value) {
+  wait_until(key + " " + std::to_string(value),
+             [&](const View& v) { return v.has(key) && v.number(key) == value; });
+}
+
+Outcome DesktopSession::xdo(std::vector<std::string> words) {
+  words.insert(words.begin(), "xdotool");
+  return run(words, environment);
+}
+
+void DesktopSession::find_size() {
+  std::istringstream lines(xdo({"getwindowgeometry", "--shell", window}).out);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with("WIDTH=")) width_ = std::stoi(line.substr(6));
+    if (line.starts_with("HEIGHT=")) height_ = std::stoi(line.substr(7));
+  }
+  if (view.has("bar")) bar_ = view.number("bar");
+}
+
+DesktopSession::Place DesktopSession::place_of(float x, float y) const {
+  const double wide = width_;
+  const double high = height_ - bar_;
+  const double scale = std::min(wide / 800, high / 600);
+  return {static_cast<int>(std::lround((wide - 800 * scale) / 2 + x * scale)),
+          bar_ + static_cast<int>(std::lround((high - 600 * scale) / 2 + y * scale))};
+}
+
+// A press acts on what the pointer's last move found: it always comes from a little beside.
+std::vector<std::string> DesktopSession::press_words(float x, float y, int button) {
+  const Place place = place_of(x, y);
+  const std::string row = std::to_string(place.y);
+  return {"mousemove", "--window", window, std::to_string(place.x - 1), row,
+          "mousemove", "--window", window, std::to_string(place.x),     row,
+          "click",     "--delay",  "2",    std::to_string(button)};
+}
+
+void DesktopSession::press(float x, float y, int button) {
+  find_size();
+  xdo(press_words(x, y, button));
+}
+
+void DesktopSession::move(float x, float y) {
+  find_size();
+  auto words = press_words(x, y, 1);
+  words.resize(words.size() - 4);
+  xdo(words);
+}
+
+void DesktopSession::press_screen(const std::string& caption) {
+  wait_until(caption, [&](const View& v) { return v.has(caption); });
+  const auto place = view.numbers(caption);
+  const std::string x = std::to_string(place.at(0));
+  const std::string y = std::to_string(place.at(1));
+  xdo({"mousemove", std::to_string(place.at(0) - 1), y, "mousemove", x, y, "click", "--delay", "2",
+       "1"});
+}
+
+void DesktopSession::key(const std::string& keys) {
+  xdo({"key", keys});
+}
+
+void DesktopSession::type(const std::string& text) {
+  xdo({"type", "--delay", "4", text});
+}
+
+void DesktopSession::paste(const std::string& text) {
+  run({"xclip", "-selection", "clipboard"}, environment, text);
+  key("ctrl+v");
+}
+
+void DesktopSession::resize(int width, int height) {
+  xdo({"windowsize", window, std::to_string(width), std::to_string(height)});
+  wait_for("width", width);
+  wait_for("height", height);
+}
+
+void DesktopSession::dismiss_opening() {
+  press(400, 300);
+  wait_for("opening", 0);
+  wait_for("action", 7);
+}
+
+Shot DesktopSession::shot() {
+  const Outcome grabbed = run({"import", "-window", window, "-depth", "8", "ppm:-"}, environment);
+  Shot result;
+  std::istringstream picture(grabbed.out);
+  std::string magic;
+  int most = 0;
+  picture >> magic >> result.width >> result.height >> most;
+  if (magic != "P6" || most != 255) throw std::runtime_error("no picture: " + grabbed.err);
+  picture.get();
+  result.rgb = grabbed.out.substr(static_cast<std::size_t>(picture.tellg()));
+  return result;
+}
+
+Shot DesktopSession::settled_shot() {
+  Shot before = shot();
+  for (int tries = 0; tries < 40; ++tries) {
+    Shot after = shot();
+    if (after == before) return after;
+    before = std::move(after);
+  }
+  throw std::runtime_error("the picture never settles");
+}
+
+int DesktopSession::pixel(const Shot& picture, float x, float y) {
+  find_size();
+  const Place place = place_of(x, y);
+  return picture.pixel(place.x, place.y);
+}
+
+void DesktopSession::expect_quiet_end() {
+  const auto asked = Clock::now();
+  const auto status = game->wait(kPatience * Milliseconds(10000));
+  const auto took = std::chrono::duration_cast<Milliseconds>(Clock::now() - asked);
+  RecordProperty("ended_after_ms", static_cast<int>(took.count()));
+  ASSERT_TRUE(status.has_value()) << "it goes on";
+  EXPECT_EQ(*status, 0);
+  EXPECT_LT(took.count(), kPatience * 1000);
+  EXPECT_EQ(game->err, "");
+  std::istringstream lines(game->out);
+  for (std::string line; std::getline(lines, line);) {
+    EXPECT_NE(line.find('\t'), std::string::npos) << line;
+  }
+}
+
+void DesktopSession::expect_still_running() {
+  EXPECT_EQ(game->wait(Milliseconds(0)), std::nullopt);
+  EXPECT_EQ(game->err, "");
+}
+
+std::string DesktopSession::file(const std::string& name) const {
+  std::ifstream stream(folder / name, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+}  // namespace tombrello

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "child.h"
+
+namespace tombrello {
+
+/// What the quick game told last. A key that it didn't tell reads as empty, or as 0.
+class View {
+ public:
+  void take(const std::string& line);
+  bool has(const std::string& key) const { return find(key) != nullptr; }
+  std::string text(const std::string& key) const;
+  int number(const std::string& key) const { return std::atoi(text(key).c_str()); }
+  std::vector<int> numbers(const std::string& key) const;
+  /// Card k of seat 1's hand, from 1, as it lies: above 1000 while it is selected.
+  std::vector<int> hand() const { return numbers("hand1"); }
+  int cards(int seat) const { return numbers("n").at(static_cast<std::size_t>(seat - 1)); }
+  std::string everything() const;
+
+ private:
+  using Told = std::map<std::string, std::string>;
+  const std::string* find(const std::string& key) const;
+  std::map<std::string, Told> told_;  ///< by kind of line
+};
+
+/// The window's picture.
+struct Shot {
+  int width = 0;
+  int height = 0;
+  std::string rgb;
+
+  int pixel(int x, int y) const;  ///< 0xRRGGBB
+  bool operator==(const Shot&) const = default;
+};
+
+/// The numbers that the quick game is started with.
+struct Quick {
+  unsigned long clock = 1;
+  int deal = 40;   ///< the deal's pauses are divided by it
+  int turns = 40;  ///< all pauses after the deal
+};
+
+/// A screen of the test's own with a window manager, and the game on it. Presses are real ones,
+/// told in the table's logical units. What doesn't happen in time throws, which fails the test.
+class DesktopSession : public ::testing::Test {
+ protected:
+  using Milliseconds = std::chrono::milliseconds;
+
+  void SetUp() override;
+  void TearDown() override;
+
+  void start_quick(Quick quick = {});
+  void start_shipped();  ///< a copy of the program, in `folder`
+  void start(const std::vector<std::string>& words);
+
+  void wait_until(const std::string& what, const std::function<bool(const View&)>& holds,
+                  Milliseconds most = Milliseconds(20000));
+  bool comes_true(const std::function<bool(const View&)>& holds, Milliseconds most);
+  void wait_for(const std::string& key, int value);
+  /// Waits until what is seen stays the same for a moment.
+  Shot settled_shot();
+  Shot shot();
+
+  void press(float x, float y, int button = 1);
+  void move(float x, float y);
+  /// Words for one call of xdotool, to press many times without a break.
+  std::vector<std::string> press_words(float x, float y, int button);
+  void press_screen(const std::string& caption);  ///< an entry or button that shows
+  void key(const std::string& keys);
+  void type(const std::string& text);
+  void paste(const std::string& text);
+  Outcome xdo(std::vector<std::string> words);
+
+  void resize(int width, int height);  ///< once the window isn't maximised any more
+  void maximise_or_not() { key("alt+F10"); }
+  void close_by_frame() { key("alt+F4"); }
+  void dismiss_opening();
+
+  /// The game ends soon, with status 0 and without a word.
+  void expect_quiet_end();
+  void expect_still_running();
+  std::string file(const std::string& name) const;
+  int pixel(const Shot& shot, float x, float y);
+
+  View view;
+  std::filesystem::path folder;
+  std::unique_ptr<Child> game;
+  std::string window;
+  std::vector<std::string> environment;
+
+ private:
+  struct Place {
+    int x;
+    int y;
+  };
+  Place place_of(float x, float y) const;
+  void read_view();
+  void start_screen();
+  void find_size();
+
+  std::unique_ptr<Child> screen_;
+  std::unique_ptr<Child> manager_;
+  std::size_t read_ = 0;
+  int width_ = 0;
+  int height_ = 0;
+  int bar_ = 20;
+};
+
+}  // namespace tombrello

@@ -1,0 +1,177 @@
+// tombrello-quick FOLDER CLOCK DEAL TURNS: the game in its window, with its files in FOLDER,
+// chance from a clock that counts up from CLOCK, and pauses divided by DEAL until the pile
+// stands and by TURNS from then on. It tells on standard output what a test waits for.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTimer>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+
+#include "match/state_check.h"
+#include "platform/desktop/desktop.h"
+#include "platform/desktop/disk_archive.h"
+#include "shell/ids.h"
+#include "shell/program.h"
+#include "tools/simulation/quiet.h"
+
+namespace tombrello {
+namespace {
+
+class QuickTimer : public Timer {
+ public:
+  QuickTimer(Timer& timer, std::function<int()> divisor)
+      : timer_(timer), divisor_(std::move(divisor)) {}
+  void start(int milliseconds) override { timer_.start(milliseconds / divisor_()); }
+
+ private:
+  Timer& timer_;
+  std::function<int()> divisor_;
+};
+
+/// Prints a line whenever it differs from the last one of its kind.
+class Teller {
+ public:
+  void tell(const std::string& line) {
+    if (line == last_) return;
+    last_ = line;
+    std::puts(line.c_str());
+    std::fflush(stdout);
+  }
+
+ private:
+  std::string last_;
+};
+
+class Line {
+ public:
+  explicit Line(const char* kind) : text_(kind) {}
+  Line& add(const char* key, const std::string& value) {
+    text_ += '\t';
+    text_ += key;
+    text_ += '=' + value;
+    return *this;
+  }
+  Line& add(const char* key, int value) { return add(key, std::to_string(value)); }
+  template <class Numbers>
+  Line& add(const char* key, const Numbers& numbers, int first, int last) {
+    std::string list;
+    for (int k = first; k <= last; ++k) {
+      list += std::to_string(numbers[static_cast<std::size_t>(k)]) + (k < last ? "," : "");
+    }
+    return add(key, list);
+  }
+  const std::string& text() const { return text_; }
+
+ private:
+  std::string text_;
+};
+
+std::string state_line(const State& s) {
+  Line line("state");
+  line.add("seat", s.di_turno).add("action", s.azione).add("drawn", s.ha_pescato);
+  line.add("dealer", s.cartaro).add("turned", s.valori_estratti, 1, kSeats);
+  line.add("index", s.indice_estrazione).add("n", s.n_mano, 1, kSeats);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const std::string number = std::to_string(seat);
+    line.add(("hand" + number).c_str(), s.mano[seat], 1, s.n_mano[seat]);
+    line.add(("melds" + number).c_str(), s.calate[seat], 1, s.n_calate[seat]);
+  }
+  line.add("pile", s.n_pozzo).add("top", s.n_pozzo > 0 ? s.pozzo[s.n_pozzo - 1U] : 0);
+  line.add("stock", s.tallone).add("round", s.numero_mano).add("totals", s.punti_totali, 1, 2);
+  line.add("deck", s.mazzo, 1, kCards);
+  for (std::size_t i = 0; i < s.nomi.size(); ++i) {
+    line.add(("name" + std::to_string(i + 1)).c_str(), s.nomi[i]);
+  }
+  // Between turns, which is when seat 1 is waited for, the state must be sound.
+  const bool between_turns = s.di_turno == 1 && !s.ha_pescato && s.n_pozzo > 0;
+  line.add("fault", between_turns ? check_state(s, {}) : "");
+  return line.text();
+}
+
+std::string window_line(const Window& w) {
+  Line line("window");
+  line.add("replay", w.enabled(menu_replay)).add("continue", w.enabled(menu_continue));
+  line.add("names", w.enabled(personalize_players)).add("marked", w.checked(menu_replay));
+  for (int i = 1; i <= 3; ++i) {
+    if (w.checked(velocita_0 + i)) line.add("speed", i);
+  }
+  line.add("rustle", w.checked(menu_card_rustle_1)).add("opening", w.visible(quadro));
+  line.add("rules", w.visible(TxtItaliano)).add("help", w.visible(TxtHelp));
+  line.add("info", w.visible(Text4)).add("dialog", w.visible(TxtPlayer_0 + 1));
+  line.add("pointer", static_cast<int>(w.pointer()));
+  return line.text();
+}
+
+std::string place(const QWidget& widget, QPoint point) {
+  const QPoint place = widget.mapToGlobal(point);
+  return std::to_string(place.x()) + ',' + std::to_string(place.y());
+}
+
+// Where entries and buttons stand on the screen, by their captions.
+template <class Container>
+void add_actions(Line& line, const Container& container) {
+  for (const QAction* action : container.actions()) {
+    line.add(action->text().remove('&').toStdString().c_str(),
+             place(container, container.actionGeometry(const_cast<QAction*>(action)).center()));
+  }
+}
+
+std::string screen_line() {
+  Line line("screen");
+  const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  line.add("box", box == nullptr ? "" : box->text().section('\n', 0, 0).toStdString());
+  line.add("popup", QApplication::activePopupWidget() != nullptr);
+  for (const QWidget* widget : QApplication::topLevelWidgets()) {
+    if (!widget->isVisible()) continue;
+    if (const auto* frame = qobject_cast<const QMainWindow*>(widget)) {
+      line.add("width", frame->width()).add("height", frame->height());
+      line.add("bar", frame->centralWidget()->y()).add("minimised", frame->isMinimized());
+      line.add("ready", frame->isMaximized() && frame->isActiveWindow());
+      add_actions(line, *frame->findChild<QMenuBar*>());
+    } else if (const auto* menu = qobject_cast<const QMenu*>(widget)) {
+      add_actions(line, *menu);
+    }
+  }
+  if (box != nullptr) {
+    for (const QAbstractButton* button : box->buttons()) {
+      line.add(button->text().remove('&').toStdString().c_str(),
+               place(*button, button->rect().center()));
+    }
+  }
+  return line.text();
+}
+
+}  // namespace
+}  // namespace tombrello
+
+int main(int argc, char** argv) {
+  using namespace tombrello;
+  Desktop desktop(argc, argv);
+  if (argc != 5) return 2;
+  const QString folder = argv[1];
+  DiskArchive archive(folder, folder + "/user");
+  CountingClock clock(std::strtoull(argv[2], nullptr, 10));
+  const State* state = nullptr;
+  QuickTimer timer(desktop.timer(), [&] {
+    return std::max(1, std::atoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]));
+  });
+  Program program({desktop.window(), timer, archive, clock});
+  state = &program.state();
+  Teller tellers[3];
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &look, [&] {
+    tellers[0].tell(state_line(program.state()));
+    tellers[1].tell(window_line(desktop.window()));
+    tellers[2].tell(screen_line());
+  });
+  look.start(15);
+  program.run();
+  return 0;
+}

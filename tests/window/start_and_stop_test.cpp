@@ -1,0 +1,215 @@
+#include <signal.h>
+
+#include <algorithm>
+#include <fstream>
+
+#include "player.h"
+
+namespace tombrello {
+namespace {
+
+namespace files = std::filesystem;
+
+enum class Moment { opening, draw, deal, computer_turn, own_turn, scoreboard };
+enum class Manner { frame, signal };
+
+class Stop : public PlayingSession,
+             public ::testing::WithParamInterface<std::tuple<Moment, Manner>> {
+ protected:
+  // The pauses that follow the moment take their full time: they are not waited for.
+  void go_to(Moment moment) {
+    switch (moment) {
+      case Moment::opening:
+        return start_quick();
+      case Moment::draw:
+        start_quick();
+        dismiss_opening();
+        press(400, 300);
+        return wait_for("index", 2);
+      case Moment::deal:
+        start_quick(
+            {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .deal = 2});
+        dismiss_opening();
+        for (int card = 1; card <= 4; ++card) {
+          press(400, 300);
+          wait_until("the next card", [&](const View& v) {
+            return v.number("index") > card || v.number("action") == 0;
+          });
+        }
+        return wait_until("the first cards", [](const View& v) {
+          const auto cards = v.numbers("hand2");
+          return cards.size() > 2 && cards[1] != 0;
+        });
+      case Moment::computer_turn:
+        begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .turns = 1});
+        return wait_for("seat", 2);
+      case Moment::own_turn:
+        begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; }), .turns = 1});
+        draw(kStock);
+        return select({1, 2});
+      case Moment::scoreboard:
+        begin({.clock = clock_of_short_hand(), .turns = 200});
+        return play_hand(false);
+    }
+  }
+};
+
+TEST_P(Stop, EndsAtOnce) {
+  const auto [moment, manner] = GetParam();
+  go_to(moment);
+  if (manner == Manner::frame) {
+    close_by_frame();
+  } else {
+    game->send(SIGTERM);
+  }
+  expect_quiet_end();
+}
+
+std::string name_of(const ::testing::TestParamInfo<Stop::ParamType>& info) {
+  const auto [moment, manner] = info.param;
+  constexpr const char* kMoments[] = {"OpeningPicture", "Draw",    "Deal",
+                                      "ComputerTurn",   "OwnTurn", "Scoreboard"};
+  return std::string(manner == Manner::frame ? "CloseAt" : "SignalAt") +
+         kMoments[static_cast<int>(moment)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Moments, Stop,
+                         ::testing::Combine(::testing::Values(Moment::opening, Moment::draw,
+                                                              Moment::deal, Moment::computer_turn,
+                                                              Moment::own_turn, Moment::scoreboard),
+                                            ::testing::Values(Manner::frame, Manner::signal)),
+                         name_of);
+
+using StopOver = PlayingSession;
+
+TEST_F(StopOver, ATerminationSignalTakesDownTheTieBox) {
+  start_quick({.clock = find_clock([](const Fortune& f) { return f.dealer == 0; })});
+  dismiss_opening();
+  for (int card = 1; card <= 4; ++card) {
+    press(400, 300);
+    wait_until("a card",
+               [&](const View& v) { return v.number("index") > card || v.text("box") != ""; });
+  }
+  wait_until("the box", [](const View& v) { return v.text("box") == "Ripeti, prego"; });
+  game->send(SIGTERM);
+  expect_quiet_end();
+}
+
+TEST_F(StopOver, TheQuestionOfEsci) {
+  begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; })});
+  draw(kStock);
+  const Shot before = settled_shot();
+  auto ask = [&] {
+    press_screen("Esci");
+    wait_until("the question",
+               [](const View& v) { return v.text("box") == "Uscire da Tombrello?"; });
+  };
+  auto wait_for_no_box = [&] {
+    wait_until("no box", [](const View& v) { return v.text("box").empty(); });
+  };
+  ask();
+  press_screen("No");
+  wait_for_no_box();
+  key("alt+e");
+  wait_until("the question", [](const View& v) { return !v.text("box").empty(); });
+  key("Escape");
+  wait_for_no_box();
+  ask();
+  close_by_frame();  // answers the box, which is in front, and leaves the game alone
+  wait_for_no_box();
+  move(20, 595);
+  EXPECT_EQ(settled_shot(), before);
+  discard(1);
+  wait_for_turn();
+  ask();
+  press_screen("Sì");
+  expect_quiet_end();
+}
+
+TEST_F(StopOver, ATerminationSignalUnderTheQuestionAndUnderAMenu) {
+  start_quick();
+  key("alt+e");
+  wait_until("the question", [](const View& v) { return !v.text("box").empty(); });
+  game->send(SIGTERM);
+  expect_quiet_end();
+
+  start_quick();
+  dismiss_opening();
+  press_screen("Opzioni");
+  press_screen("Velocità gioco");
+  wait_until("both menus", [](const View& v) { return v.has("Alta"); });
+  game->send(SIGTERM);
+  expect_quiet_end();
+}
+
+using Shipped = PlayingSession;
+
+// Nobody tells here what the game does: the picture does.
+TEST_F(Shipped, OpensDealsAndCloses) {
+  const auto started = std::chrono::steady_clock::now();
+  start_shipped();
+  Shot opening = settled_shot();
+  const auto painted = std::chrono::steady_clock::now() - started;
+  RecordProperty("painted_within_ms",
+                 static_cast<int>(std::chrono::duration_cast<Milliseconds>(painted).count()));
+  constexpr int kGrey = 0xC0C0C0;
+  EXPECT_EQ(pixel(opening, 30, 300), kGrey);
+  EXPECT_NE(pixel(opening, 400, 300), kGrey);
+  press(400, 300);
+  const Shot table = settled_shot();
+  EXPECT_EQ(pixel(table, 100, 500), 0x007000);
+  EXPECT_NE(pixel(table, 400, 300), 0x007000) << "the deck";
+  key("alt+o");
+  for (const char* each : {"Down", "Right", "Up", "Return"}) key(each);  // the last pace: "Alta"
+  auto cards_are_dealt = [&] {
+    const Shot now = shot();
+    return pixel(now, 258, 60) != 0x007000 || pixel(now, 258, 530) != 0x007000;
+  };
+  bool dealing = false;
+  for (int tries = 0; tries < 60 && !dealing; ++tries) {
+    press(400, 300);
+    key("Return");  // a tie has a box
+    dealing = cards_are_dealt();
+  }
+  EXPECT_TRUE(dealing);
+  close_by_frame();
+  expect_quiet_end();
+  EXPECT_EQ(game->out, "");
+}
+
+TEST_F(Shipped, StartsWhateverLiesInTheSettingsFilesPlace) {
+  const auto settings = folder / "config.zvq";
+  auto starts = [&](const char* with) {
+    SCOPED_TRACE(with);
+    start_shipped();
+    EXPECT_EQ(pixel(settled_shot(), 30, 300), 0xC0C0C0);
+    close_by_frame();
+    expect_quiet_end();
+    files::remove_all(settings);
+  };
+  files::create_directory(settings);
+  starts("a folder");
+  std::ofstream(settings) << std::string(1000, '\0');
+  starts("NUL bytes");
+  std::ofstream(settings) << std::string(100U << 20, '7');
+  starts("a hundred megabytes");
+  std::ofstream(settings) << " 1 \r\nA\r\n";
+  files::permissions(settings, files::perms::none);
+  starts("nothing that may be read");
+  files::create_symlink(settings, settings);
+  starts("a link to itself");
+}
+
+TEST_F(Shipped, SaysInOneLineThatThereIsNoScreen) {
+  for (const char* display : {"DISPLAY", "DISPLAY=:9999"}) {
+    environment.back() = display;
+    const Outcome outcome = run({TOMBRELLO}, environment);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
+    EXPECT_NE(outcome.err.find("DISPLAY"), std::string::npos) << outcome.err;
+  }
+}
+
+}  // namespace
+}  // namespace tombrello
