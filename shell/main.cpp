@@ -3,8 +3,9 @@
 
 int main(int argc, char** argv) {
   tombrello::Desktop desktop(argc, argv);
-  tombrello::Program program(
-      {desktop.window(), desktop.timer(), desktop.archive(), desktop.clock()});
+  tombrello::Program program({desktop.window(), desktop.timer(), desktop.archive(), desktop.clock(),
+                              desktop.wave(), desktop.sequencer(), desktop.beeper()});
+  desktop.set_media_events(&program);
   program.run();
   return 0;
 }

@@ -68,6 +68,9 @@ void Program::choose_in_group(EntryId entry) {
   if (entry == menu_card_rustle_0 || entry == menu_card_rustle_1) {
     menu_card_rustle_Click(entry - menu_card_rustle_0);
   }
+  if (entry == nomusic_0) music_.nomusic_Click();
+  if (entry == all_0) music_.all_Click();
+  if (entry > canzoni_0) music_.canzoni_Click(entry - canzoni_0);
 }
 
 void Program::menu_replay_Click() {

@@ -8,13 +8,6 @@ constexpr float kOpeningHeight = 360;
 
 }  // namespace
 
-class Program::SilentSound : public Sound {
- public:
-  void Apri_suono(const std::string&) override {}
-  void suona() override {}
-  void beep() override {}
-};
-
 Program::Program(Platform platform)
     : window_(platform.window),
       settings_(s_, platform.archive),
@@ -23,8 +16,11 @@ Program::Program(Platform platform)
       pointer_(s_, m_, window_, panels_, names_),
       pacing_(s_, window_, platform.timer),
       table_(s_, m_, window_),
-      sound_(std::make_unique<SilentSound>()),
-      rules_(s_, m_, platform.clock, {table_, pacing_, *sound_, *this}) {
+      archive_(platform.archive),
+      effects_(platform.wave, platform.beeper, s_.fruscio_opz),
+      music_(platform.sequencer, window_, s_.brano, {menu_music, nomusic_0, all_0, canzoni_0},
+             [this] { Set_Write(); }),
+      rules_(s_, m_, platform.clock, {table_, pacing_, effects_, *this}) {
   window_.set_events(this);
 }
 
@@ -40,6 +36,7 @@ void Program::run() {
   } catch (const Leaving&) {
     // The player has left; nothing is saved on the way out.
   }
+  Form_Unload();
 }
 
 void Program::Form_Load() {
@@ -47,9 +44,17 @@ void Program::Form_Load() {
   settings_.Set_Read();
   build_menus();
   window_.set_checked(velocita_0 + s_.velocita, true);
+  music_.scan(archive_);
+  music_.start();
   window_.set_checked(menu_card_rustle_0 + s_.fruscio_opz, true);
+  effects_.prepare();
   panels_.create();
   names_.create();
+}
+
+void Program::Form_Unload() {
+  music_.close();
+  effects_.close();
 }
 
 void Program::Form_Activate() {

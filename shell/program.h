@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "cards/clock.h"
@@ -10,12 +9,16 @@
 #include "human/pointer.h"
 #include "match/rules.h"
 #include "platform/archive.h"
+#include "platform/beeper.h"
+#include "platform/media.h"
 #include "platform/timer.h"
 #include "platform/window.h"
 #include "shell/names_dialog.h"
 #include "shell/pacing.h"
 #include "shell/panels.h"
 #include "shell/settings.h"
+#include "sound/effects.h"
+#include "sound/music.h"
 #include "table/painted_table.h"
 
 namespace tombrello {
@@ -26,11 +29,14 @@ struct Platform {
   Timer& timer;
   Archive& archive;
   Clock& clock;
+  MediaControl& wave;
+  MediaControl& sequencer;
+  Beeper& beeper;
 };
 
 /// The program: owns the state of a run, and binds window, table, rules and settings. All of
 /// its life runs in `run`; handlers run nested in the waits of the game.
-class Program : public WindowEvents, public Shell {
+class Program : public WindowEvents, public MediaEvents, public Shell {
  public:
   explicit Program(Platform platform);
   Program(const Program&) = delete;
@@ -52,6 +58,8 @@ class Program : public WindowEvents, public Shell {
   void field_confirmed(ControlId field) override;
   void timer_ticked() override { pacing_.Timer1_Timer(); }
 
+  void media_done(int code) override { music_.MMC1_Done(code); }
+
   void Set_Write() override { settings_.Set_Write(); }
   void enable_replay(bool enabled) override { window_.set_enabled(menu_replay, enabled); }
   void enable_continue(bool enabled) override;
@@ -62,13 +70,12 @@ class Program : public WindowEvents, public Shell {
   void message(const std::string& text) override { window_.message_box(text, Buttons::ok); }
 
  private:
-  class SilentSound;
-
   /// What stands on the table, to paint it again after the names dialog has cleared it.
   enum class Screen { before_hands, hand, score };
 
   void Form_Load();
   void Form_Activate();
+  void Form_Unload();
   void build_menus();
   void open_with_picture();
   void menu_replay_Click();
@@ -88,7 +95,9 @@ class Program : public WindowEvents, public Shell {
   Pointer pointer_;
   Pacing pacing_;
   PaintedTable table_;
-  std::unique_ptr<Sound> sound_;
+  Archive& archive_;
+  Effects effects_;
+  Music music_;
   Rules rules_;
   Screen screen_ = Screen::before_hands;
 };

@@ -49,9 +49,19 @@ Desktop::Desktop(int& argc, char** argv)
       application_(argc, argv),
       window_(draw_picture, draw_icon()),
       timer_(window_.events()),
-      archive_(QCoreApplication::applicationDirPath(), user_folder()) {
+      archive_(QCoreApplication::applicationDirPath(), user_folder()),
+      audio_(
+          QCoreApplication::applicationDirPath().toStdString(), [this] { wake_for_audio(); },
+          QApplication::beep) {
   qInstallMessageHandler(messages_);
+  window_.after_first_paint([this] { audio_.start(); });
   stop_signal_.listen([this] { window_.stop(); });
+}
+
+// Called on another thread.
+void Desktop::wake_for_audio() {
+  QMetaObject::invokeMethod(
+      &application_, [this] { audio_.deliver(); }, Qt::QueuedConnection);
 }
 
 }  // namespace tombrello

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "platform/desktop/audio/sdl_audio.h"
 #include "platform/desktop/desktop_timer.h"
 #include "platform/desktop/desktop_window.h"
 #include "platform/desktop/disk_archive.h"
@@ -15,8 +16,9 @@ namespace tombrello {
 ///
 ///     int main(int argc, char** argv) {
 ///       Desktop desktop(argc, argv);
-///       Game game(desktop.window(), desktop.timer(), desktop.archive(), desktop.clock());
-///       return game.run();
+///       Program program({desktop.window(), desktop.timer(), ...});
+///       desktop.set_media_events(&program);
+///       program.run();
 ///     }
 ///
 /// Where no screen can be reached, the constructor says so in one line on standard error and
@@ -29,6 +31,10 @@ class Desktop {
   Timer& timer() { return timer_; }
   Archive& archive() { return archive_; }
   Clock& clock() { return clock_; }
+  MediaControl& wave() { return audio_.wave(); }
+  MediaControl& sequencer() { return audio_.sequencer(); }
+  Beeper& beeper() { return audio_.beeper(); }
+  void set_media_events(MediaEvents* events) { audio_.set_events(events); }
 
  private:
   /// Qt ends a process without a screen by a core dump; this one goes quietly.
@@ -37,6 +43,8 @@ class Desktop {
     Application(int& argc, char** argv);
   };
 
+  void wake_for_audio();
+
   StopSignal stop_signal_;
   QtMessageHandler messages_;
   Application application_;
@@ -44,6 +52,7 @@ class Desktop {
   DesktopTimer timer_;
   DiskArchive archive_;
   SystemClock clock_;
+  SdlAudio audio_;
 };
 
 }  // namespace tombrello

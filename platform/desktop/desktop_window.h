@@ -51,6 +51,11 @@ class DesktopWindow : public Window {
   void bring_to_front(ControlId control) override { overlay_.bring_to_front(control); }
   void set_text(ControlId field, const std::string& text) override;
 
+  /// Called once, soon after the window has first been painted.
+  void after_first_paint(std::function<void()> action) {
+    table_->after_first_paint(std::move(action));
+  }
+
   QMainWindow& frame() { return frame_; }
   TableWidget& table() { return *table_; }
   WindowEvents& events() { return relay_; }  ///< where parts beside the window report

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QtMath>
 #include <utility>
 
@@ -102,6 +103,7 @@ void TableWidget::paintEvent(QPaintEvent* event) {
     pictures_.drop_unused();
     stale_sizes_ = false;
   }
+  if (first_paint_) QTimer::singleShot(0, this, std::exchange(first_paint_, nullptr));
 }
 
 void TableWidget::resizeEvent(QResizeEvent*) {

@@ -23,6 +23,8 @@ class TableWidget : public QWidget {
   const TableGeometry& geometry_in_pixels() const { return geometry_; }
   /// Called whenever the table has moved or changed its size.
   void set_follower(std::function<void(const TableGeometry&)> follower);
+  /// Called once, soon after the table has first been painted.
+  void after_first_paint(std::function<void()> action) { first_paint_ = std::move(action); }
 
   /// Looks whether the window's size or its screen has changed.
   void follow_screen();
@@ -46,6 +48,7 @@ class TableWidget : public QWidget {
   PictureCache pictures_;
   TableGeometry geometry_{QSize(800, 600), 1, 96};
   std::function<void(const TableGeometry&)> follower_;
+  std::function<void()> first_paint_;
   bool stale_sizes_ = false;
 };
 

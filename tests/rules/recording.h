@@ -42,7 +42,6 @@ class RecordingOutside : public Table, public Wait, public Sound, public Shell {
   void card_dealt(int seat, int k, int card) override {
     add("dealt", number(seat) + " " + number(k) + " " + name_of(card));
   }
-  void deal_over() override { add("deal_over"); }
   void card_drawn(int card) override { add("drawn", name_of(card)); }
   void card_landed(int seat, int card) override {
     add("landed", number(seat) + " " + name_of(card));

@@ -162,7 +162,9 @@ int main(int argc, char** argv) {
   QuickTimer timer(desktop.timer(), [&] {
     return std::max(1, std::atoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]));
   });
-  Program program({desktop.window(), timer, archive, clock});
+  Program program({desktop.window(), timer, archive, clock, desktop.wave(), desktop.sequencer(),
+                   desktop.beeper()});
+  desktop.set_media_events(&program);
   state = &program.state();
   Teller tellers[3];
   QTimer look;

@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
                     write(folder, "fan.png", fan_sheet(1)) &&
                     write(folder, "strips.png", strip_sheet(1)) &&
                     write(folder, "opening.png", opening_sheet(640, 480)) &&
-                    write(folder, "icon.png", icon_sheet());
+                    write(folder, "icon.png", icon_sheet()) &&
+                    write(folder, "tombrello.png", icon(256));
   return done ? 0 : 1;
 }

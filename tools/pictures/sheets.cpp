@@ -76,13 +76,17 @@ QImage opening_sheet(int width, int height) {
   return rasterise(draw_picture({PictureSet::quadro, 0}), width, height);
 }
 
+QImage icon(int size) {
+  return rasterise(tombrello::draw_icon(), size, size);
+}
+
 QImage icon_sheet() {
   QImage sheet(390, 148, QImage::Format_RGB32);
   sheet.fill(QColor(200, 200, 204));
   QPainter painter(&sheet);
   int x = 10;
   for (const int size : {16, 24, 32, 48, 64, 128}) {
-    painter.drawImage(x, 10, rasterise(tombrello::draw_icon(), size, size));
+    painter.drawImage(x, 10, icon(size));
     x += size + 10;
   }
   return sheet;

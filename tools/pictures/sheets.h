@@ -10,4 +10,5 @@ QImage fan_sheet(int unit);
 QImage strip_sheet(int unit);
 QImage opening_sheet(int width, int height);
 /// The icon at the sizes of title bars and desktops.
+QImage icon(int size);
 QImage icon_sheet();
