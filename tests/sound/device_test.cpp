@@ -58,6 +58,18 @@ struct Heard {
     open(audio.sequencer(), file);
     audio.sequencer().command(Command::play);
   }
+  void play_wave() {
+    audio.wave().command(Command::play);
+    await_waves();
+  }
+  /// Until the thread behind the wave device has taken all that it was told.
+  void await_waves() {
+    EXPECT_TRUE(disk.await([this] {
+      const std::lock_guard lock(audio.wave().box()->mutex);
+      return audio.wave().box()->jobs.empty();
+    }));
+    disk.pass(0.05);
+  }
   void await_wave_device() {
     ASSERT_TRUE(disk.await([this] {
       const std::lock_guard lock(audio.wave().box()->mutex);
@@ -120,7 +132,7 @@ TEST(Waves, EachPlayIsOneRustle) {
   heard.audio.start();
   heard.await_wave_device();
   for (int i = 0; i < 12; ++i) {
-    heard.audio.wave().command(Command::play);
+    heard.play_wave();
     heard.disk.pass(0.5);
   }
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 12U);
@@ -133,6 +145,7 @@ TEST(Waves, WhatWasToldBeforeTheDeviceStandsIsHeardOnceItDoes) {
   EXPECT_EQ(heard.disk.now(), 0) << "the device was opened before it may be";
   heard.audio.start();
   heard.await_wave_device();
+  heard.await_waves();
   heard.disk.pass(0.3);
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 1U);
 }
@@ -142,11 +155,10 @@ TEST(Waves, ClosingLetsASoundFinishAndTheNextOneBegins) {
   heard.audio.start();
   heard.await_wave_device();
   heard.open(heard.audio.wave(), "sounds/Notify.wav");
-  heard.audio.wave().command(Command::play);
-  heard.disk.pass(0.1);
+  heard.play_wave();
   heard.open(heard.audio.wave(), "sounds/carta.wav");
   heard.disk.pass(1.2);
-  heard.audio.wave().command(Command::play);
+  heard.play_wave();
   heard.disk.pass(0.4);
   const auto samples = heard.disk.heard();
   const auto begun = onsets(samples);
@@ -165,9 +177,11 @@ TEST(Waves, FilesThatAreNoneAreSilent) {
     heard.open(heard.audio.wave(), std::string("sounds/") + name + ".wav");
     heard.audio.wave().command(Command::play);
   }
+  heard.await_waves();
   heard.disk.pass(0.3);
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 0U);
   heard.audio.beeper().beep();
+  heard.await_waves();
   heard.disk.pass(0.3);
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 1U);
   EXPECT_EQ(heard.system_beeps, 0);
