@@ -99,9 +99,9 @@ Log told_deal(const State& s, int dealer) {
     if (seat == 1) told.push_back("suona");
     if (k == 13 && (slot < 52 || seat == 4)) told.push_back("ritardo 0.1");
   }
-  for (const auto& line : {std::string("Set_Write"), "pile " + name_of(s.mazzo[53]),
-                           std::string(s.mazzo[54] > 52 ? "stock 1" : "stock 0"),
-                           std::string("deal_over"), std::string("ritardo 0.01")}) {
+  for (const auto& line :
+       {std::string("Set_Write"), "pile " + name_of(s.mazzo[53]),
+        std::string(s.mazzo[54] > 52 ? "stock 1" : "stock 0"), std::string("ritardo 0.01")}) {
     told.push_back(line);
   }
   return told;
