@@ -118,6 +118,7 @@ void Program::enable_names(bool enabled) {
 
 void Program::deal_begins() {
   names_.close_if_open();
+  window_.set_enabled(menu_continue, false);
   screen_ = Screen::hand;
 }
 

@@ -57,7 +57,7 @@ void HeadlessWindow::serve_events() {
     const Action action = std::move(script.front());
     script.pop_front();
     action();
-  } else if (!on_pass) {
+  } else {
     close();
   }
 }
