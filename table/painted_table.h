@@ -45,6 +45,8 @@ class PaintedTable : public Table {
   void panel_opens() override;
   void scoreboard() override;
 
+  /// The names and the prompt of the dealer screen, as they are printed last of all there.
+  void dealer_texts();
   /// Clears the table and paints it anew from the state of the running hand, or of the deal.
   void repaint_hand();
   /// The same for a hand that has been counted: open cards, panel and scores.
