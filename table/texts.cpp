@@ -6,7 +6,7 @@
 namespace tombrello {
 namespace {
 
-constexpr int kPanelHalfWidth = 200;
+constexpr int kPanelHalfWidth = 199;
 constexpr int kPanelStep = 3;
 constexpr int kPanelStepShown = 6;  // milliseconds; the whole within half a second
 constexpr int kMostLetters = 7;     // of a name
@@ -123,7 +123,6 @@ void PaintedTable::panel_opens() {
 
 void PaintedTable::repaint_score() {
   repaint_hand();
-  scopro_carte();
   surface_.filled_box(m_.mezza_larghezza - kPanelHalfWidth, m_.mezza_altezza - 130,
                       m_.mezza_larghezza + kPanelHalfWidth, m_.mezza_altezza + 110, kGreen);
   scoreboard();

@@ -136,5 +136,98 @@ TEST(NamesDialog, LeftOpenItClosesWithThePictureOrTheFirstCard) {
   EXPECT_TRUE(draw.window.script.empty());
 }
 
+// Faces on the table, in any order.
+Lines faces(Game& game) {
+  Lines lines = game.pictures();
+  std::erase_if(lines, [](const std::string& line) { return line.starts_with("dorso"); });
+  std::sort(lines.begin(), lines.end());
+  return lines;
+}
+
+TEST(NamesDialog, ConfirmedInAReplayedHandTheTableIsPaintedAgain) {
+  Game game(3, kept_deal());
+  game.choose(menu_replay).until_own_turn();
+  int turns = 0;
+  game.until([&] { return game.is_own_turn() && game.s().ha_pescato && ++turns == 12; });
+  Lines before;
+  const auto confirm = [&] {
+    game.choose(personalize_players).then([&] { before = faces(game); });
+    type(game, 3, "leonida");
+    game.then([&] {
+      game.window.press(100, 120);
+      expect_closed(game);
+      EXPECT_EQ(faces(game), before);
+      EXPECT_TRUE(has(game.texts(), "'LEONIDA' 370,124.25"));
+    });
+  };
+  confirm();
+  game.then([&] {
+    EXPECT_TRUE(has(game.pictures(), "dorsov0 400,252.875 460,347.125") ||
+                has(game.pictures(), "dorsov1 400,252.875 460,347.125"));
+  });
+  game.until_scoreboard();
+  Lines panel;
+  game.then([&] {
+    for (const Item& item : game.surface().items()) {
+      const auto* box = std::get_if<BoxItem>(&item);
+      if (box != nullptr && box->colour == kGreen) panel.push_back(seen(item));
+    }
+    EXPECT_EQ(panel, (Lines{"box 201,170 400,410 green", "box 400,170 599,410 green"}));
+  });
+  confirm();
+  game.then([&] {
+    EXPECT_TRUE(has(seen(game.surface()), "box 201,170 599,410 green")) << "the panel's size";
+    EXPECT_TRUE(has(game.texts(), "'Game    "));
+  });
+  game.choose(personalize_players).choose(menu_continue).then([&] { expect_closed(game); });
+  game.play();
+  EXPECT_TRUE(game.window.script.empty());
+}
+
+TEST(NamesDialog, ConfirmedWhileTheOpenHandsAreShownTheyStayOpen) {
+  Game game(3, kept_deal());
+  bool done = false;
+  game.choose(menu_replay).until_scoreboard();
+  game.window.on_pass = [&] {
+    const bool shown = game.timer.running() && has(game.pictures(), "carta") &&
+                       !game.is_dealing() && game.s().n_mano[game.s().di_turno] == 0 &&
+                       game.timer.period() == 3900;
+    if (done || !shown) return;
+    done = true;
+    game.window.choose(personalize_players);
+    const Lines before = faces(game);
+    game.window.press(100, 120);
+    EXPECT_EQ(faces(game), before);
+  };
+  game.play();
+  EXPECT_TRUE(done);
+}
+
+TEST(Repaint, TheStockShowsUnlessItsLastCardWasTaken) {
+  State s;
+  Metrics m;
+  HeadlessTimer timer;
+  HeadlessWindow window(timer);
+  PaintedTable table(s, m, window);
+  for (int k = 1; k <= kCards; ++k) s.mazzo[k] = static_cast<std::int16_t>(k);
+  s.tallone = kCards;
+  s.n_pozzo = 51;
+  s.pozzo.fill(9);
+  s.ha_pescato = true;
+  s.di_turno = 2;
+  const auto stock_stands = [&](std::initializer_list<int> hands) {
+    std::copy(hands.begin(), hands.end(), s.n_mano.begin() + 1);
+    for (auto& hand : s.mano) hand.fill(5);
+    table.repaint_hand();
+    return has(seen(window.surface(), Kind::pictures), "dorsov1 400,252.875 460,347.125");
+  };
+  EXPECT_FALSE(stock_stands({13, 14, 13, 13})) << "the last card was drawn";
+  EXPECT_TRUE(stock_stands({13, 13, 13, 13})) << "the pile was taken, and a card discarded";
+  s.n_calate[2] = 4;
+  s.calate[2] = {0, 1, 2, 3, kSentinel};
+  EXPECT_FALSE(stock_stands({13, 11, 13, 13}));
+  EXPECT_TRUE(stock_stands({13, 10, 13, 13}));
+}
+
 }  // namespace
 }  // namespace tombrello
