@@ -118,11 +118,14 @@ void Program::enable_continue(bool enabled) {
 
 void Program::enable_names(bool enabled) {
   window_.set_enabled(personalize_players, enabled);
-  if (!enabled) names_.close_if_open();
+  if (enabled || !names_.is_open()) return;
+  names_.close_if_open();
+  table_.dealer_texts();
 }
 
 void Program::deal_begins() {
   names_.close_if_open();
+  window_.set_enabled(menu_continue, false);
   screen_ = Screen::hand;
 }
 

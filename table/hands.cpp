@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "table/painted_table.h"
 
 namespace tombrello {
@@ -18,6 +20,20 @@ Picture upright_back(int back) {
 }
 Picture lying_back(int back) {
   return {PictureSet::dorsoo, back};
+}
+
+// `tallone` stands at 104 before and after the last card is drawn; only the count of all other
+// cards tells. Before its draw a computer seat holds a copy of the pile's top card.
+bool is_last_card_taken(const State& s) {
+  if (s.tallone != kCards || !s.ha_pescato) return false;
+  int cards = s.n_pozzo;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const auto& list = s.calate[seat];
+    const auto end = list.begin() + 1 + s.n_calate[seat];
+    cards += s.n_mano[seat] + s.n_calate[seat];
+    cards -= static_cast<int>(std::count(list.begin() + 1, end, kSentinel));
+  }
+  return cards == kCards;
 }
 
 float steps(int k, float step) {
@@ -170,9 +186,10 @@ void PaintedTable::repaint_hand() {
   for (int seat = 1; seat <= kSeats; ++seat) paint_strip(seat);
   const bool dealing = s_.pozzo[0] == 0;
   if (!dealing && s_.n_pozzo > 0) pile_shows(s_.pozzo[static_cast<std::size_t>(s_.n_pozzo - 1)]);
-  const bool last_taken = s_.tallone == kCards && s_.n_pozzo >= kPack - 1 && s_.ha_pescato;
-  if (!last_taken) stock_shows(dealing ? 0 : back_number(s_.mazzo[s_.tallone]));
+  if (!is_last_card_taken(s_)) stock_shows(dealing ? 0 : back_number(s_.mazzo[s_.tallone]));
   ridisegno_carte();
+  const bool hand_over = !dealing && s_.n_mano[s_.di_turno] == 0;
+  if (hand_over) scopro_carte();
 }
 
 }  // namespace tombrello

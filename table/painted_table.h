@@ -45,7 +45,10 @@ class PaintedTable : public Table {
   void panel_opens() override;
   void scoreboard() override;
 
-  /// Clears the table and paints it anew from the state of the running hand, or of the deal.
+  /// The names and the prompt of the dealer screen, as they are printed last of all there.
+  void dealer_texts();
+  /// Clears the table and paints it anew from the state of the running hand, or of the deal;
+  /// once the seat on turn holds no card, with open hands.
   void repaint_hand();
   /// The same for a hand that has been counted: open cards, panel and scores.
   void repaint_score();

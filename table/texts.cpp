@@ -6,9 +6,10 @@
 namespace tombrello {
 namespace {
 
-constexpr int kPanelHalfWidth = 200;
+constexpr int kPanelHalfWidth = 199;
 constexpr int kPanelStep = 3;
 constexpr int kPanelStepShown = 6;  // milliseconds; the whole within half a second
+constexpr int kMostLetters = 7;     // of a name
 constexpr float kTitleX = 500;      // right of seat 3's place
 
 // Length in bytes of the UTF-8 character at the start of a text that isn't empty.
@@ -50,10 +51,11 @@ void PaintedTable::print_name(int seat) {
   }
 }
 
+// Printing nothing takes away what a longer name left there.
 void PaintedTable::print_name_downward(const std::string& name, float x) {
-  int i = 1;
-  for (std::size_t at = 0; at < name.size(); ++i) {
-    const std::size_t length = first_character(name, at);
+  std::size_t at = 0;
+  for (int i = 1; i <= kMostLetters; ++i) {
+    const std::size_t length = at < name.size() ? first_character(name, at) : 0;
     const float pitch = surface_.font_size() + 10;
     surface_.set_text_position(x, m_.mezza_altezza - 50 + pitch * static_cast<float>(i));
     surface_.print(name.substr(at, length));
@@ -72,6 +74,10 @@ void PaintedTable::dealer_screen() {
   surface_.set_font_size(8);
   surface_.set_text_x(kTitleX);
   surface_.print("by Frassivo");
+  dealer_texts();
+}
+
+void PaintedTable::dealer_texts() {
   Posiziona_Players();
   surface_.set_font_size(9);
   surface_.set_text_colour(kWhite);
@@ -117,7 +123,6 @@ void PaintedTable::panel_opens() {
 
 void PaintedTable::repaint_score() {
   repaint_hand();
-  scopro_carte();
   surface_.filled_box(m_.mezza_larghezza - kPanelHalfWidth, m_.mezza_altezza - 130,
                       m_.mezza_larghezza + kPanelHalfWidth, m_.mezza_altezza + 110, kGreen);
   scoreboard();

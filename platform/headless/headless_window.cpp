@@ -57,7 +57,7 @@ void HeadlessWindow::serve_events() {
     const Action action = std::move(script.front());
     script.pop_front();
     action();
-  } else if (!on_pass) {
+  } else {
     close();
   }
 }
@@ -92,7 +92,7 @@ void HeadlessWindow::move(float x, float y) {
 }
 
 bool HeadlessWindow::choose(EntryId entry) {
-  if (in_box_ || events_ == nullptr || !enabled(entry)) return false;
+  if (in_box_ || events_ == nullptr || !entries_.contains(entry) || !enabled(entry)) return false;
   events_->entry_chosen(entry);
   return true;
 }

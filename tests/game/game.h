@@ -1,0 +1,133 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "match/state_check.h"
+#include "platform/headless/headless_window.h"
+#include "shell/program.h"
+#include "tests/game/seen.h"
+#include "tools/simulation/quiet.h"
+#include "tools/simulation/script.h"
+
+namespace tombrello {
+
+/// A whole program on a headless window. `play` runs it until the script has run out, for the
+/// player leaves then.
+class Game {
+ public:
+  explicit Game(std::uint64_t seed = 1, const std::string& settings = "",
+                ScriptKind player = ScriptKind::melder)
+      : clock(seed), player_(make_script(player, seed)) {
+    if (!settings.empty()) archive.files["config.zvq"] = settings;
+  }
+
+  void play() { program.run(); }
+  Game& then(HeadlessWindow::Action action) {
+    window.script.push_back(std::move(action));
+    return *this;
+  }
+  Game& choose(EntryId entry) {
+    return then([=, this] { EXPECT_TRUE(window.choose(entry)); });
+  }
+  Game& dismiss() {
+    return then([this] { window.click(quadro); });
+  }
+  Game& press_deck(int times = 1) {
+    for (int i = 0; i < times; ++i) then([this] { window.press(400, 300); });
+    return *this;
+  }
+  /// The player goes on until `done`, looked at whenever the game waits for a press.
+  Game& until(const std::function<bool()>& done) {
+    return then([this, done] { go_on(done); });
+  }
+  Game& until_own_turn() {
+    return until([this] { return is_own_turn(); });
+  }
+  Game& until_scoreboard() {
+    return until([this] { return is_over(); });
+  }
+
+  const State& s() const { return program.state(); }
+  Surface& surface() { return window.surface(); }
+  Lines texts() { return seen(surface(), Kind::texts); }
+  Lines pictures() { return seen(surface(), Kind::pictures); }
+  bool is_drawing() const { return s().azione == kDealerDraw; }
+  bool is_dealing() const { return in_hand() && s().pozzo[0] == 0; }
+  bool is_over() const {
+    return in_hand() && s().n_mano[s().di_turno] == 0 && !timer.running() && !s().continua;
+  }
+  bool is_own_turn() const {
+    return in_hand() && s().pozzo[0] != 0 && s().di_turno == 1 && !timer.running() && !is_over();
+  }
+
+  /// One sensible act of the player, whatever the game waits for.
+  void act() {
+    if (window.visible(quadro)) {
+      window.click(quadro);
+    } else if (is_drawing()) {
+      window.move(400, 300);
+      window.press(400, 300);
+    } else if (is_over()) {
+      window.choose(menu_continue);
+    } else if (is_own_turn()) {
+      act_on_turn();
+    }
+  }
+
+  HeadlessTimer timer;
+  HeadlessWindow window{timer};
+  MemoryArchive archive;
+  CountingClock clock;
+  Program program{{window, timer, archive, clock}};
+
+ private:
+  void go_on(const std::function<bool()>& done) {
+    if (done()) return;
+    act();
+    window.script.push_front([this, done] { go_on(done); });
+  }
+  bool in_hand() const { return s().n_mano[2] + s().n_mano[4] + s().n_mano[1] > 0; }
+
+  // Asks the script of the simulations, which posts codes, and does with the pointer what makes
+  // the program post them.
+  void act_on_turn() {
+    State copy = s();
+    for (auto& card : copy.mano[1]) card = static_cast<std::int16_t>(card % kSelected);
+    copy.azione = kNoAction;
+    player_->act(copy, program.metrics());
+    const Metrics& m = program.metrics();
+    const float x = std::clamp(copy.x_click, m.striscia_x() + 1, m.striscia_x() + 300);
+    const float fan_y = 2 * m.mezza_altezza - 30;
+    switch (copy.azione) {
+      case kDrawPile:
+        return point(m.mezza_larghezza - 10, m.mezza_altezza);
+      case kDrawStock:
+        return point(m.mezza_larghezza + 10, m.mezza_altezza);
+      case kSelect:
+        return point(copy.x_click, fan_y, Button::right);
+      case kLayOwnSide:
+        return point(x, m.mezza_altezza + m.altezza_carta + 30);
+      case kLayPartnerSide:
+        return point(x, m.altezza_carta + 60);
+      default:
+        return point(copy.x_click, fan_y);
+    }
+  }
+  void point(float x, float y, Button button = Button::left) {
+    window.move(x, y);
+    window.press(x, y, button);
+  }
+
+  std::unique_ptr<Script> player_;
+};
+
+/// A settings file with a deal: the deck in falling order, so that seat 1 gets spades with the
+/// dealer 4, who has the last packet.
+inline std::string kept_deal(int dealer = 4) {
+  std::string file = " 2 \r\nLEO\r\nADA\r\nPIA\r\nUGO\r\n 1 \r\n 0 \r\n 100 \r\n";
+  for (int card = kCards; card >= 1; --card) file += " " + std::to_string(card) + " \r\n";
+  return file + " " + std::to_string(dealer) + " \r\n";
+}
+
+}  // namespace tombrello

@@ -1,0 +1,233 @@
+#include <algorithm>
+
+#include "tests/game/game.h"
+
+namespace tombrello {
+namespace {
+
+constexpr const char* kPrompt = "'Scelta cartaro - Clicca sul mazzo' 5,5 Arial 9 white";
+
+void type(Game& game, int seat, const std::string& name) {
+  game.then([&game, seat, name] { game.window.type(TxtPlayer_0 + seat, name); });
+}
+
+void expect_closed(Game& game) {
+  for (int control = TxtPlayer_0 + 1; control <= Shape1_1; ++control) {
+    EXPECT_FALSE(game.window.visible(control)) << control;
+  }
+  EXPECT_FALSE(has(game.texts(), "Player")) << "nothing of it stays on the table";
+  EXPECT_FALSE(has(seen(game.surface()), "yellow"));
+}
+
+TEST(NamesDialog, IsDrawnOnTheTable) {
+  Game game(1, kept_deal());
+  game.choose(personalize_players).then([&] {
+    EXPECT_EQ(
+        seen(game.surface()),
+        (Lines{"box 0,0 158,30 pale", "'  Personalize Players' 5,5 MS Sans Serif 8 black",
+               "frame 0,30 158,130 yellow", "'Player1 (you)' 5,33 MS Sans Serif 8 white",
+               "'Player2' 5,47.8 MS Sans Serif 8 white", "'Player3' 5,62.6 MS Sans Serif 8 white",
+               "'Player4' 5,77.4 MS Sans Serif 8 white"}));
+    Lines fields;
+    for (int i = 1; i <= kSeats; ++i) {
+      const Area& area = game.window.area(TxtPlayer_0 + i);
+      EXPECT_TRUE(game.window.visible(TxtPlayer_0 + i));
+      fields.push_back(game.window.text(TxtPlayer_0 + i) + " " + at(area.left, area.top) + " " +
+                       at(area.right, area.bottom));
+    }
+    EXPECT_EQ(fields, (Lines{"LEO 75,32 135,46.8", "ADA 75,46.8 135,61.6", "PIA 75,61.6 135,76.4",
+                             "UGO 75,76.4 135,91.2"}));
+    for (const ControlId shape : {Shape1_0, Shape1_1}) {
+      EXPECT_TRUE(game.window.visible(shape));
+      EXPECT_EQ(game.window.area(shape), (Area{75, 115, 135, 124.9F}));
+    }
+    EXPECT_EQ(game.window.front(), Shape1_0);
+  });
+  type(game, 2, "zoë b");
+  type(game, 3, "abcdefgh");
+  type(game, 4, "a,b");  // which the file couldn't hold
+  type(game, 1, "");
+  game.then([&] {
+    EXPECT_EQ(game.s().nomi, (std::array<std::string, 4>{"", "ZOË B", "ABCDEFG", "UGO"}));
+    EXPECT_EQ(game.window.text(TxtPlayer_0 + 2), "zoë b") << "the field shows what was typed";
+    EXPECT_EQ(game.archive.writes, 0);
+  });
+  game.play();
+}
+
+TEST(NamesDialog, ConfirmedOnTheOpeningPicture) {
+  for (const bool by_enter : {false, true}) {
+    Game game;
+    game.choose(personalize_players);
+    type(game, 1, "leo");
+    game.then([&, by_enter] {
+      by_enter ? (void)game.window.press_enter(TxtPlayer_0 + 1) : game.window.press(100, 120);
+      EXPECT_EQ(game.archive.files.at("Players"), "LEO\r\nOVEST\r\nNORD\r\nEST\r\n");
+      EXPECT_EQ(game.archive.files.size(), 1U) << "the settings file waits for the next write";
+      expect_closed(game);
+      EXPECT_TRUE(game.surface().items().empty());
+    });
+    game.then([&, by_enter] { EXPECT_EQ(game.window.visible(quadro), by_enter); });
+    if (by_enter) game.dismiss();
+    game.then([&] { EXPECT_TRUE(has(game.texts(), "'LEO' 370,464.9 Arial 8 green")); });
+    game.play();
+    EXPECT_EQ(game.archive.writes, 1);
+    EXPECT_TRUE(game.window.script.empty());
+  }
+}
+
+TEST(NamesDialog, ConfirmedDuringTheDrawItLaysTheScreenOutAgain) {
+  for (const bool by_enter : {false, true}) {
+    Game game;
+    game.dismiss();
+    for (const char* name : {"giuseppe", "ugo"}) {  // the entry stays enabled
+      game.choose(personalize_players);
+      type(game, 2, name);
+      game.then([&, by_enter] {
+        EXPECT_FALSE(has(game.texts(), kPrompt)) << "under the dialog's heading";
+        by_enter ? (void)game.window.press_enter(TxtPlayer_0 + 3) : game.window.press(100, 120);
+      });
+    }
+    game.then([&] {
+      expect_closed(game);
+      EXPECT_TRUE(game.is_drawing());
+      EXPECT_TRUE(has(game.texts(), kPrompt));
+      const Lines texts = game.texts();
+      const auto letters = std::count_if(texts.begin(), texts.end(), [](const std::string& line) {
+        return line.find(" 124.25,") != std::string::npos;
+      });
+      EXPECT_EQ(letters, 3) << "UGO";
+      EXPECT_EQ(game.s().indice_estrazione, 1);
+    });
+    game.until_own_turn().then([&] { EXPECT_EQ(game.s().squadre[1], "UGO-EST"); });
+    game.play();
+    EXPECT_TRUE(game.window.script.empty());
+    const std::string& settings = game.archive.files.at("config.zvq");
+    EXPECT_NE(settings.find("TU\r\nUGO\r\nNORD"), std::string::npos) << "with the deal";
+  }
+}
+
+TEST(NamesDialog, LeftOpenItClosesWithThePictureOrTheFirstCard) {
+  Game opening;
+  opening.choose(personalize_players);
+  type(opening, 4, "ida");
+  opening.then([&] { opening.window.press_key(quadro); }).then([&] {
+    expect_closed(opening);
+    EXPECT_EQ(opening.archive.files.at("Players"), "TU\r\nOVEST\r\nNORD\r\nIDA\r\n");
+    EXPECT_TRUE(has(opening.texts(), kPrompt));
+  });
+  opening.play();
+  EXPECT_TRUE(opening.window.script.empty());
+
+  Game draw;
+  draw.dismiss().choose(personalize_players);
+  type(draw, 2, "io");
+  draw.press_deck().then([&] {
+    expect_closed(draw);
+    EXPECT_EQ(draw.archive.files.at("Players"), "TU\r\nIO\r\nNORD\r\nEST\r\n");
+    EXPECT_FALSE(draw.window.enabled(personalize_players));
+    EXPECT_EQ(draw.pictures().size(), 2U) << "the card was drawn";
+    EXPECT_TRUE(has(draw.texts(), kPrompt)) << "three more are to be drawn";
+    EXPECT_TRUE(has(draw.texts(), "'I' 124.25,268")) << "the label shows the new name";
+    EXPECT_TRUE(has(draw.texts(), "'O' 124.25,286"));
+    EXPECT_FALSE(has(draw.texts(), " 124.25,304")) << "and nothing of the old, longer one";
+  });
+  draw.play();
+  EXPECT_TRUE(draw.window.script.empty());
+}
+
+// Faces on the table, in any order.
+Lines faces(Game& game) {
+  Lines lines = game.pictures();
+  std::erase_if(lines, [](const std::string& line) { return line.starts_with("dorso"); });
+  std::sort(lines.begin(), lines.end());
+  return lines;
+}
+
+TEST(NamesDialog, ConfirmedInAReplayedHandTheTableIsPaintedAgain) {
+  Game game(3, kept_deal());
+  game.choose(menu_replay).until_own_turn();
+  int turns = 0;
+  game.until([&] { return game.is_own_turn() && game.s().ha_pescato && ++turns == 12; });
+  Lines before;
+  const auto confirm = [&] {
+    game.choose(personalize_players).then([&] { before = faces(game); });
+    type(game, 3, "leonida");
+    game.then([&] {
+      game.window.press(100, 120);
+      expect_closed(game);
+      EXPECT_EQ(faces(game), before);
+      EXPECT_TRUE(has(game.texts(), "'LEONIDA' 370,124.25"));
+    });
+  };
+  confirm();
+  game.then([&] {
+    EXPECT_TRUE(has(game.pictures(), "dorsov0 400,252.875 460,347.125") ||
+                has(game.pictures(), "dorsov1 400,252.875 460,347.125"));
+  });
+  game.until_scoreboard();
+  Lines panel;
+  game.then([&] {
+    for (const Item& item : game.surface().items()) {
+      const auto* box = std::get_if<BoxItem>(&item);
+      if (box != nullptr && box->colour == kGreen) panel.push_back(seen(item));
+    }
+    EXPECT_EQ(panel, (Lines{"box 201,170 400,410 green", "box 400,170 599,410 green"}));
+  });
+  confirm();
+  game.then([&] {
+    EXPECT_TRUE(has(seen(game.surface()), "box 201,170 599,410 green")) << "the panel's size";
+    EXPECT_TRUE(has(game.texts(), "'Game    "));
+  });
+  game.choose(personalize_players).choose(menu_continue).then([&] { expect_closed(game); });
+  game.play();
+  EXPECT_TRUE(game.window.script.empty());
+}
+
+TEST(NamesDialog, ConfirmedWhileTheOpenHandsAreShownTheyStayOpen) {
+  Game game(3, kept_deal());
+  bool done = false;
+  game.choose(menu_replay).until_scoreboard();
+  game.window.on_pass = [&] {
+    const bool shown = game.timer.running() && has(game.pictures(), "carta") &&
+                       !game.is_dealing() && game.s().n_mano[game.s().di_turno] == 0 &&
+                       game.timer.period() == 3900;
+    if (done || !shown) return;
+    done = true;
+    game.window.choose(personalize_players);
+    const Lines before = faces(game);
+    game.window.press(100, 120);
+    EXPECT_EQ(faces(game), before);
+  };
+  game.play();
+  EXPECT_TRUE(done);
+}
+
+TEST(Repaint, TheStockShowsUnlessItsLastCardWasTaken) {
+  State s;
+  Metrics m;
+  HeadlessTimer timer;
+  HeadlessWindow window(timer);
+  PaintedTable table(s, m, window);
+  for (int k = 1; k <= kCards; ++k) s.mazzo[k] = static_cast<std::int16_t>(k);
+  s.tallone = kCards;
+  s.n_pozzo = 51;
+  s.pozzo.fill(9);
+  s.ha_pescato = true;
+  s.di_turno = 2;
+  const auto stock_stands = [&](std::initializer_list<int> hands) {
+    std::copy(hands.begin(), hands.end(), s.n_mano.begin() + 1);
+    for (auto& hand : s.mano) hand.fill(5);
+    table.repaint_hand();
+    return has(seen(window.surface(), Kind::pictures), "dorsov1 400,252.875 460,347.125");
+  };
+  EXPECT_FALSE(stock_stands({13, 14, 13, 13})) << "the last card was drawn";
+  EXPECT_TRUE(stock_stands({13, 13, 13, 13})) << "the pile was taken, and a card discarded";
+  s.n_calate[2] = 4;
+  s.calate[2] = {0, 1, 2, 3, kSentinel};
+  EXPECT_FALSE(stock_stands({13, 11, 13, 13}));
+  EXPECT_TRUE(stock_stands({13, 10, 13, 13}));
+}
+
+}  // namespace
+}  // namespace tombrello

@@ -1,0 +1,429 @@
+#include <algorithm>
+#include <functional>
+
+#include "tests/game/game.h"
+
+namespace tombrello {
+namespace {
+
+constexpr const char* kPrompt = "'Scelta cartaro - Clicca sul mazzo' 5,5 Arial 9 white";
+
+TEST(Opening, APictureOnGreyThatAClickAKeyOrAPressBesideDismisses) {
+  const std::vector<std::function<void(HeadlessWindow&)>> ways = {
+      [](HeadlessWindow& w) { w.click(quadro); }, [](HeadlessWindow& w) { w.press_key(quadro); },
+      [](HeadlessWindow& w) { w.press(700, 50); },
+      [](HeadlessWindow& w) { w.press(100, 300, Button::right); }};
+  for (const auto& dismiss : ways) {
+    Game game;
+    game.then([&] {
+      EXPECT_TRUE(game.window.shown());
+      EXPECT_EQ(game.window.caption(), "Frassivo - Tombrello");
+      EXPECT_EQ(game.surface().background(), kGrey);
+      EXPECT_TRUE(game.surface().items().empty());
+      EXPECT_EQ(game.window.front(), quadro);
+      EXPECT_EQ(game.window.area(quadro), (Area{160, 120, 640, 480}));
+      game.window.move(300, 490);
+      EXPECT_TRUE(game.window.visible(quadro));
+      dismiss(game.window);
+    });
+    game.then([&] {
+      EXPECT_FALSE(game.window.visible(quadro));
+      EXPECT_EQ(game.surface().background(), kFelt);
+      EXPECT_TRUE(has(game.texts(), kPrompt));
+      EXPECT_EQ(game.pictures().size(), 1U) << "the deck";
+    });
+    game.play();
+    EXPECT_TRUE(game.window.script.empty());
+  }
+}
+
+TEST(Opening, APanelStaysOverTheTableAfterAClickOnThePicture) {
+  for (const bool beside : {false, true}) {
+    Game game;
+    game.choose(istruzioni).then([&] {
+      EXPECT_EQ(game.window.front(), TxtItaliano);
+      beside ? game.window.press(700, 50) : (void)game.window.click(quadro);
+    });
+    game.then([&] { EXPECT_NE(game.window.visible(TxtItaliano), beside); });
+    game.play();
+  }
+}
+
+// The dealer that a deck gives: passes of four slots, each three slots on.
+int expected_dealer(const State& s, int& ties) {
+  for (int first = 1;; first += 3) {
+    const int ranks[] = {ValCarta(s.mazzo[first]), ValCarta(s.mazzo[first + 1]),
+                         ValCarta(s.mazzo[first + 2]), ValCarta(s.mazzo[first + 3])};
+    const int* best = std::max_element(ranks, ranks + 4);
+    if (std::count(ranks, ranks + 4, *best) == 1)
+      return static_cast<int>((best - ranks + 1) % 4) + 1;
+    ++ties;
+  }
+}
+
+TEST(DrawForDealer, TheHighestRankDealsAndATieIsRepeated) {
+  int ties_seen = 0;
+  for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+    Game game(seed);
+    int ties = 0;
+    int dealer = 0;
+    game.dismiss().then([&] { dealer = expected_dealer(game.s(), ties); });
+    game.until([&] { return !game.is_drawing(); });
+    bool over = false;
+    game.window.on_pass = [&] {
+      if (game.timer.running() && !game.is_drawing() && !over) {
+        over = true;
+        EXPECT_EQ(game.s().cartaro, dealer) << seed;
+        EXPECT_EQ(game.s().di_turno, next_seat(dealer));
+        EXPECT_EQ(game.window.boxes, Lines(static_cast<std::size_t>(ties), "Ripeti, prego"));
+        EXPECT_EQ(game.pictures().size(), 5U) << "new cards lie over those of a tied pass";
+        game.window.close();
+      }
+    };
+    game.play();
+    EXPECT_TRUE(over);
+    ties_seen += ties;
+  }
+  EXPECT_GT(ties_seen, 0);
+}
+
+TEST(DrawForDealer, CardsComeToTheSeatsInTurnAndOnlyForPressesOnTheDeck) {
+  Game game;
+  game.dismiss().then([&] { game.window.press(355, 300); });
+  game.then([&] {
+    EXPECT_EQ(game.pictures().size(), 1U);
+    game.window.press(400, 300);
+  });
+  const auto expect_next = [&](std::size_t cards, const char* place) {
+    game.then([&game, cards, place] {
+      EXPECT_EQ(game.pictures().size(), cards + 1);
+      EXPECT_TRUE(has(game.pictures(), place));
+      game.window.press(400, 300);
+    });
+  };
+  expect_next(1, " 20,252.875 80,347.125");
+  expect_next(2, " 370,20 430,114.25");
+  expect_next(3, " 720,252.875 780,347.125");
+  game.play();
+}
+
+// Hands as they were dealt, and the card turned up.
+Lines dealt(const State& s) {
+  Lines cards = {std::to_string(s.pozzo[0])};
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    std::array<int, kHandCards> hand{};
+    std::copy_n(s.mano[seat].begin() + 1, kHandCards, hand.begin());
+    std::sort(hand.begin(), hand.end());
+    for (const int card : hand) cards.push_back(std::to_string(seat) + ":" + std::to_string(card));
+  }
+  return cards;
+}
+
+// Plays on until the upcard lies, and leaves.
+Lines deal_and_leave(Game& game) {
+  Lines cards;
+  game.window.on_pass = [&] {
+    if (game.s().tallone != 54 || game.s().pozzo[0] == 0 || !cards.empty()) return;
+    cards = dealt(game.s());
+    game.window.close();
+  };
+  game.until([] { return false; });
+  game.play();
+  return cards;
+}
+
+TEST(Replay, DealsTheSameCardsAgainInTheNextRunAndTheOneAfter) {
+  Game first(5);
+  const Lines cards = deal_and_leave(first);
+  ASSERT_EQ(cards.size(), 53U);
+  std::string file = first.archive.files.at("config.zvq");
+  for (const std::uint64_t seed : {6, 7}) {
+    Game again(seed, file);
+    again.choose(menu_replay);
+    EXPECT_EQ(deal_and_leave(again), cards);
+    EXPECT_EQ(again.s().cartaro, first.s().cartaro);
+    EXPECT_EQ(again.s().numero_mano, 0);
+    file = again.archive.files.at("config.zvq");
+    EXPECT_EQ(file, first.archive.files.at("config.zvq"));
+  }
+  Game shuffled(8, file);
+  EXPECT_NE(deal_and_leave(shuffled), cards) << "without the mark";
+}
+
+constexpr const char* kNoHand = "Nessuna mano è stata ancora giocata";
+constexpr const char* kNotice =
+    "Nel punteggio finale saranno riportati i risultati della mano ripetuta\n"
+    "Questi sostituiranno quelli della mano precedente";
+
+TEST(Replay, WithoutAKeptDealThereIsOnlyAMessage) {
+  Game game;
+  game.choose(menu_replay).dismiss().then([&] {
+    EXPECT_FALSE(game.window.checked(menu_replay));
+    EXPECT_TRUE(game.is_drawing());
+  });
+  game.play();
+  EXPECT_EQ(game.window.boxes, (Lines{kNoHand}));
+}
+
+TEST(Replay, TheMarkLivesForOneHandAndTheNextIsShuffled) {
+  Game game(3, kept_deal());
+  Lines first;
+  game.choose(menu_replay).choose(menu_replay).dismiss().until_own_turn().then([&] {
+    EXPECT_EQ(game.window.boxes, (Lines{kNotice, kNotice}));
+    EXPECT_EQ(game.s().mano[1][1], 104) << "dealer 4: the first packet goes to seat 1";
+    EXPECT_TRUE(game.window.checked(menu_replay));
+    EXPECT_TRUE(game.window.enabled(menu_replay));
+    EXPECT_TRUE(game.window.enabled(personalize_players));
+    first = dealt(game.s());
+  });
+  game.until_scoreboard().then([&] {
+    EXPECT_EQ(game.s().numero_mano, 0);
+    const auto& row = game.s().punti_mano[0];
+    EXPECT_EQ(game.s().punti_totali[1], row[1]);
+    EXPECT_TRUE(has(game.texts(), "'Game    LEO-PIA' 220,175 "));
+    EXPECT_TRUE(has(game.texts(), "'      " + std::to_string(row[1]) + "' 220,175+1"));
+  });
+  game.choose(menu_replay).choose(menu_continue).until_own_turn().then([&] {
+    EXPECT_EQ(game.window.boxes.size(), 3U);
+    EXPECT_FALSE(game.window.checked(menu_replay));
+    EXPECT_FALSE(game.window.enabled(menu_replay));
+    EXPECT_EQ(game.s().numero_mano, 1);
+    EXPECT_EQ(game.s().cartaro, 1);
+    EXPECT_NE(dealt(game.s()), first);
+  });
+  game.play();
+  EXPECT_TRUE(game.window.script.empty());
+}
+
+TEST(Replay, MarkedDuringTheDrawItDealsTheDeckOfTheDraw) {
+  Game game(3, kept_deal());
+  std::array<std::int16_t, kCards + 1> deck{};
+  game.dismiss().press_deck().choose(menu_replay).then([&] { deck = game.s().mazzo; });
+  game.until([&] { return !game.is_drawing(); }).until_own_turn().then([&] {
+    EXPECT_EQ(game.s().numero_mano, 1);
+    EXPECT_TRUE(std::equal(deck.begin() + 1, deck.begin() + 53, game.s().mazzo.begin() + 1));
+    EXPECT_TRUE(game.window.checked(menu_replay));
+    EXPECT_FALSE(game.window.enabled(menu_replay));
+    EXPECT_FALSE(game.window.choose(menu_replay));
+  });
+  game.until_scoreboard().choose(menu_continue).until_own_turn().then([&] {
+    EXPECT_FALSE(game.window.checked(menu_replay));
+    EXPECT_NE(deck, game.s().mazzo);
+  });
+  game.play();
+  EXPECT_TRUE(game.window.script.empty());
+}
+
+TEST(Menus, TheTree) {
+  Game game;
+  Lines tree;
+  const std::function<void(EntryId, std::string)> walk = [&](EntryId parent, std::string indent) {
+    for (const EntryId entry : game.window.entries(parent)) {
+      tree.push_back(indent + game.window.caption(entry));
+      walk(entry, indent + "-");
+    }
+  };
+  game.then([&] { walk(kMenuBar, ""); });
+  game.play();
+  EXPECT_EQ(tree, (Lines{"&Partita",
+                         "-Ripeti ultima mano",
+                         "-Continua",
+                         "-&Nomi dei giocatori",
+                         "&Regole",
+                         "&Opzioni",
+                         "-Velocità gioco",
+                         "--Bassa",
+                         "--Media",
+                         "--Alta",
+                         "&Suoni",
+                         "-Fruscio delle carte",
+                         "--No",
+                         "--Si",
+                         "&Musica",
+                         "-Nessuna",
+                         "-MODO SEQUENZIALE",
+                         "&Info",
+                         "&Help",
+                         "&Esci"}));
+}
+
+TEST(Menus, WhatIsEnabledWhen) {
+  Game game(4);
+  const auto expect = [&](const char* when, bool replay, bool go_on, bool names) {
+    game.then([=, &game] {
+      EXPECT_EQ(game.window.enabled(menu_replay), replay) << when;
+      EXPECT_EQ(game.window.enabled(menu_continue), go_on) << when;
+      EXPECT_EQ(game.window.enabled(personalize_players), names) << when;
+    });
+  };
+  expect("opening", true, false, true);
+  game.dismiss();
+  expect("draw", true, false, true);
+  game.press_deck();
+  expect("first card drawn", true, false, false);
+  game.until_own_turn();
+  expect("turn", false, false, false);
+  game.until_scoreboard();
+  expect("scoreboard", false, true, false);
+  game.choose(menu_continue).until_own_turn();
+  expect("next hand", false, false, false);
+  game.until([&] { return game.is_over() && !game.window.enabled(menu_continue); });
+  expect("match over", false, false, false);
+  game.then([&] {
+    const auto& totals = game.s().punti_totali;
+    EXPECT_GE(std::max(totals[1], totals[2]), kWinningTotal);
+  });
+  game.play();
+  EXPECT_TRUE(game.window.script.empty());
+}
+
+TEST(Menus, SpeedsLastForTheRunAndStartAtTheSlowest) {
+  Game game(1, kept_deal());
+  game.choose(velocita_0 + 3).dismiss().then([&] {
+    EXPECT_EQ(game.s().ritardo_base, 0.5F) << "each match starts slow, whatever is checked";
+    EXPECT_TRUE(game.window.checked(velocita_3));
+  });
+  for (int index = 1; index <= 3; ++index) {
+    game.choose(velocita_0 + index).then([&game, index] {
+      EXPECT_EQ(game.s().ritardo_base, static_cast<float>(index) / 2);
+      for (int i = 1; i <= 3; ++i) EXPECT_EQ(game.window.checked(velocita_0 + i), i == index);
+    });
+  }
+  game.choose(menu_card_rustle_0);
+  game.play();
+  EXPECT_TRUE(game.archive.files["config.zvq"].starts_with(" 2 \r\n")) << "as it was read";
+}
+
+TEST(Menus, TheRustleIsWrittenAtOnce) {
+  Game game(1, kept_deal());
+  game.then([&] { EXPECT_TRUE(game.window.checked(menu_card_rustle_1)); });
+  for (const int on : {0, 1}) {
+    game.choose(menu_about).choose(menu_card_rustle_0 + on).then([&game, on] {
+      EXPECT_FALSE(game.window.visible(Text4));
+      EXPECT_EQ(game.window.checked(menu_card_rustle_0), on == 0);
+      EXPECT_EQ(game.window.checked(menu_card_rustle_1), on == 1);
+      std::string file = kept_deal();
+      if (on == 0) file.replace(file.find("UGO\r\n 1 ") + 6, 1, "0");
+      EXPECT_EQ(game.archive.files["config.zvq"], file);
+    });
+  }
+  game.play();
+  EXPECT_EQ(game.archive.writes, 2);
+}
+
+TEST(Menus, PanelsReplaceEachOtherAndAnyPressHidesThem) {
+  Game game;
+  const auto shows = [&](ControlId panel) {
+    game.then([&game, panel] {
+      for (const ControlId other : {TxtHelp, TxtItaliano, Text4}) {
+        EXPECT_EQ(game.window.visible(other), other == panel);
+      }
+      EXPECT_TRUE(panel == 0 || game.window.front() == panel);
+    });
+  };
+  for (const auto& [entry, panel] :
+       {std::pair{menu_help, TxtHelp}, {istruzioni, TxtItaliano}, {menu_about, Text4}}) {
+    shows(0);
+    game.choose(entry);
+    shows(panel);
+    game.choose(entry);
+    shows(0);
+    game.choose(entry).then([&game, panel = panel] { game.window.click(panel); });
+    shows(0);
+    game.choose(menu_help == entry ? menu_about : menu_help).choose(entry);
+    shows(panel);
+    game.choose(entry);
+  }
+  game.choose(menu_help).dismiss();
+  shows(TxtHelp);
+  game.press_deck().then([&] { EXPECT_EQ(game.pictures().size(), 2U) << "it acted as well"; });
+  shows(0);
+  game.then([&] {
+    EXPECT_EQ(game.window.area(TxtHelp), (Area{0, 0, 285, 197.7F}));
+    EXPECT_EQ(game.window.area(TxtItaliano), (Area{0, 0, 285, 197.7F}));
+    EXPECT_EQ(game.window.area(Text4), (Area{0, 0, 150.8F, 80.1F}));
+    EXPECT_TRUE(game.window.text(Text4).starts_with("Tombrello ver 3.3\n--"));
+  });
+  game.play();
+}
+
+TEST(Leaving, EsciAsksAndNoGoesOn) {
+  Game game;
+  game.window.answers = {Answer::no, Answer::yes};
+  game.dismiss().choose(esci).then([&] { EXPECT_TRUE(has(game.texts(), kPrompt)); });
+  game.choose(esci).then([] { FAIL() << "the window is closed"; });
+  game.play();
+  EXPECT_EQ(game.window.boxes, (Lines{"Uscire da Tombrello?", "Uscire da Tombrello?"}));
+  EXPECT_TRUE(game.surface().items().empty());
+  EXPECT_EQ(game.archive.writes, 0);
+}
+
+std::string wait_of(Game& game) {
+  if (game.window.visible(quadro)) return "opening";
+  if (game.is_drawing()) return "draw";
+  if (game.is_dealing()) return "deal";
+  if (has(game.texts(), "Rimescolo")) return "reshuffle";
+  if (game.is_over()) return "scoreboard";
+  if (game.is_own_turn()) return "own turn";
+  return game.s().di_turno == 1 ? "pause" : "computer's turn";
+}
+
+TEST(Leaving, TheFramesCloseUnwindsEveryWaitAtOnceAndSavesNothing) {
+  for (const std::string wait : {"opening", "draw", "deal", "own turn", "computer's turn", "pause",
+                                 "reshuffle", "scoreboard"}) {
+    Game game(2, "", ScriptKind::simple);
+    int writes = 0;
+    game.window.on_pass = [&] {
+      ASSERT_LT(game.window.passes(), 20000) << wait;
+      if (wait_of(game) != wait) return;
+      writes = game.archive.writes;
+      game.window.close();
+    };
+    game.until([] { return false; });
+    game.play();
+    EXPECT_EQ(wait_of(game), wait) << "nothing went on";
+    EXPECT_EQ(game.archive.writes, writes);
+  }
+}
+
+TEST(Leaving, FromEachOfTheFirstPasses) {
+  for (int pass = 1; pass <= 150; ++pass) {
+    Game game(9);
+    int writes = 0;
+    game.window.on_pass = [&] {
+      if (game.window.passes() != pass) return;
+      writes = game.archive.writes;
+      game.window.close();
+    };
+    game.until([] { return false; });
+    game.play();
+    EXPECT_EQ(game.window.passes(), pass);
+    EXPECT_EQ(game.archive.writes, writes);
+  }
+}
+
+TEST(Leaving, UnderABox) {
+  for (const EntryId entry : {menu_replay, esci}) {
+    for (const char* settings : {"", "kept"}) {
+      Game game(1, *settings == '\0' ? "" : kept_deal());
+      game.window.on_box = [&] { game.window.close(); };
+      game.choose(entry).then([] { FAIL(); });
+      game.play();
+      EXPECT_EQ(game.window.boxes.size(), 1U);
+      EXPECT_EQ(game.archive.writes, 0);
+    }
+  }
+  for (std::uint64_t seed = 1;; ++seed) {  // a draw with a tie
+    Game game(seed);
+    game.window.on_box = [&] { game.window.close(); };
+    game.until([&] { return !game.is_drawing() && !game.window.visible(quadro); });
+    game.play();
+    if (game.window.boxes.empty()) continue;
+    EXPECT_EQ(game.window.boxes, (Lines{"Ripeti, prego"}));
+    EXPECT_EQ(game.archive.writes, 0);
+    break;
+  }
+}
+
+}  // namespace
+}  // namespace tombrello

@@ -1,0 +1,216 @@
+#include <algorithm>
+#include <cstdio>
+#include <random>
+#include <set>
+
+#include "tests/game/game.h"
+
+namespace tombrello {
+namespace {
+
+/// A person who presses, moves, chooses and types whatever comes to the fingers, in every pass
+/// of the window, while a sensible one plays on in the waits.
+class Storm {
+ public:
+  Storm(Game& game, std::uint64_t seed) : game_(game), random_(seed) {}
+
+  void blow() {
+    for (int events = below(6); events > 0; --events) one_event();
+  }
+  int presses() const { return presses_; }
+
+ private:
+  int below(int n) { return static_cast<int>(random_() % static_cast<std::uint64_t>(n)); }
+  float along(float from, float to) {
+    return from + (to - from) * static_cast<float>(below(1001)) / 1000;
+  }
+
+  void one_event() {
+    switch (below(10)) {
+      case 0:
+        return choose();
+      case 1:
+        return use_controls();
+      case 2:
+      case 3:
+        place();
+        return game_.window.move(x_, y_);
+      default:
+        place();
+        if (below(2) == 0) game_.window.move(x_, y_);
+        ++presses_;
+        return game_.window.press(x_, y_, below(2) == 0 ? Button::left : Button::right);
+    }
+  }
+
+  // Anywhere, or where something is to be hit.
+  void place() {
+    struct Spot {
+      float left, top, right, bottom;
+    };
+    constexpr Spot kSpots[] = {{0, 0, 800, 600},     {250, 480, 530, 585}, {250, 480, 530, 585},
+                               {340, 252, 460, 348}, {290, 410, 600, 480}, {290, 145, 600, 240},
+                               {70, 110, 140, 130}};
+    const Spot& spot = kSpots[below(7)];
+    x_ = along(spot.left, spot.right);
+    y_ = along(spot.top, spot.bottom);
+  }
+
+  void choose() {
+    EntryId entry = 1 + below(canzoni_0);
+    if (entry == menu_continue && below(8) != 0) entry = menu_help;  // the scoreboard stays a while
+    game_.window.choose(std::min<EntryId>(entry, esci));
+  }
+
+  void use_controls() {
+    const ControlId control = 1 + below(Shape1_1);
+    constexpr const char* kTyped[] = {"", "x", "ambrogio", "è,\"", "zoë\n", " a b "};
+    if (control > TxtPlayer_0 && control <= TxtPlayer_4) {
+      game_.window.type(control, kTyped[below(6)]);
+      if (below(4) == 0) game_.window.press_enter(control);
+    } else if (control <= Text4) {
+      if (control != quadro || below(20) == 0) game_.window.click(control);
+    }
+  }
+
+  Game& game_;
+  std::mt19937_64 random_;
+  float x_ = 0;
+  float y_ = 0;
+  int presses_ = 0;
+};
+
+/// Looks at the state whenever a turn has just ended, and at the surface in every pass.
+class Watch {
+ public:
+  explicit Watch(Game& game) : game_(game) {}
+
+  void look() {
+    const State& s = game_.s();
+    most_items = std::max(most_items, game_.surface().items().size());
+    if (game_.window.visible(quadro)) return see("opening");
+    if (game_.is_drawing()) return see("draw");
+    if (game_.is_dealing()) return see("deal");
+    if (s.pozzo[0] == 0) return;
+    if (has(game_.texts(), "Rimescolo")) see("reshuffle");
+    if (game_.is_over()) see("scoreboard");
+    see(s.di_turno == 1 ? "own turn" : "computer's turn");
+    if (s.di_turno == seat_) return;
+    seat_ = s.di_turno;
+    ++turns;
+    const bool over = std::count(s.n_mano.begin() + 1, s.n_mano.end(), 0) > 0;
+    const std::string fault = check_state(s, {.hand_over = over, .whole_deck = true});
+    EXPECT_EQ(fault, "") << "turn " << turns;
+    if (!fault.empty()) game_.window.close();
+  }
+
+  std::set<std::string> states;
+  std::size_t most_items = 0;
+  int turns = 0;
+
+ private:
+  void see(const char* state) {
+    states.insert(state);
+    if (game_.is_dealing()) seat_ = 0;
+  }
+
+  Game& game_;
+  int seat_ = 0;
+};
+
+constexpr int kMostPasses = 60000;
+
+struct Result {
+  int presses = 0;
+  int hands = 0;
+  int turns = 0;
+  std::size_t most_items = 0;
+  std::set<std::string> states;
+};
+
+Result weather(std::uint64_t seed, int stormy_passes) {
+  // Some runs find a deal that they may replay, some smaller cards.
+  std::string settings = kept_deal();
+  if (seed % 4 == 0) settings.replace(settings.find("100"), 3, "80");
+  Game game(seed, seed % 2 == 0 ? settings : "");
+  Storm storm(game, seed);
+  Watch watch(game);
+  game.window.on_box = [&] {
+    storm.blow();  // which no box lets through
+    if (!game.window.boxes.back().starts_with("Uscire")) return;
+    game.window.answers = {Answer::no};
+  };
+  int hands = 0;
+  game.window.on_pass = [&] {
+    const int passes = game.window.passes();
+    if (passes > kMostPasses) {
+      ADD_FAILURE() << "the hand doesn't end";
+      game.window.close();
+      return;
+    }
+    watch.look();
+    if (passes <= stormy_passes) storm.blow();
+  };
+  // During the storm the sensible player acts at times only; then alone, to the scoreboard.
+  game.then([] {});
+  std::function<void()> dawdle = [&] {
+    if (game.window.passes() % 7 == 0) game.act();
+    if (game.window.passes() <= stormy_passes) {
+      game.then(dawdle);
+      return;
+    }
+    game.then([&] {
+      game.window.press(10, 300);  // any panel goes
+      if (game.is_own_turn()) {
+        game.window.move(255, 575);
+        game.window.press(255, 575);  // cards that stand selected are lowered
+      }
+    });
+    game.until([&] { return game.is_dealing() || game.is_own_turn() || game.is_over(); });
+    game.until_scoreboard().then([&] { ++hands; });
+  };
+  game.then(dawdle);
+  game.play();
+  EXPECT_EQ(hands, 1) << "the scoreboard was reached";
+  EXPECT_TRUE(has(game.texts(), "'Game    "));
+  return {storm.presses(), game.s().numero_mano, watch.turns, watch.most_items, watch.states};
+}
+
+TEST(Storm, NothingUpsetsTheGame) {
+  Result all;
+  for (std::uint64_t seed = 1; seed <= 12; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    const Result result = weather(seed, 6000);
+    all.presses += result.presses;
+    all.hands += result.hands;
+    all.turns += result.turns;
+    all.most_items = std::max(all.most_items, result.most_items);
+    all.states.insert(result.states.begin(), result.states.end());
+  }
+  std::printf("%d presses, %d hands, %d turns, at most %zu items\n", all.presses, all.hands,
+              all.turns, all.most_items);
+  EXPECT_GT(all.presses, 20000);
+  EXPECT_EQ(all.states, (std::set<std::string>{"opening", "draw", "deal", "own turn",
+                                               "computer's turn", "reshuffle", "scoreboard"}));
+  EXPECT_LT(all.most_items, 300U);
+}
+
+TEST(Storm, TheSurfaceStaysShortOverAWholeMatch) {
+  std::size_t most = 0;
+  int hands = 0;
+  for (std::uint64_t seed = 1; seed <= 5; ++seed) {
+    Game game(seed);
+    Watch watch(game);
+    game.window.on_pass = [&] { watch.look(); };
+    game.until([&] { return game.is_over() && !game.window.enabled(menu_continue); });
+    game.play();
+    EXPECT_TRUE(game.window.script.empty());
+    most = std::max(most, watch.most_items);
+    hands += game.s().numero_mano;
+  }
+  std::printf("%d hands, at most %zu items\n", hands, most);
+  EXPECT_LT(most, 300U);
+}
+
+}  // namespace
+}  // namespace tombrello
