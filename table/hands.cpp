@@ -80,10 +80,14 @@ void PaintedTable::ridisegno_dorsi(int seat) {
     case 2:
       erase(0, kSideBoxTop, m_.altezza_carta + 20, bottom);
       break;
-    case 3:
-      erase(m_.ventaglio_x(), 19, m_.ventaglio_x() + 13 * m_.passo_carta() + m_.larghezza_carta,
-            m_.altezza_carta + 19);
+    case 3: {
+      const Area fan = {m_.ventaglio_x(), 19,
+                        m_.ventaglio_x() + 13 * m_.passo_carta() + m_.larghezza_carta,
+                        m_.altezza_carta + 19};
+      erase(fan.left, fan.top, fan.right, fan.bottom);
+      paint_strip_cards_in(4, fan);  // the box reaches a little into that strip
       break;
+    }
     case 4:
       erase(m_.colonna_destra(), kSideBoxTop, 2 * m_.mezza_larghezza - 20, bottom);
       break;

@@ -146,6 +146,13 @@ TEST_F(Table, MeldsAdditionsAndDiscards) {
   EXPECT_EQ(view.cards(1), 10);
   discard(10);
   wait_for_turn();
+  for (int turn = 0; turn < 4 && !hand_is_over(); ++turn) {
+    ASSERT_NE(view.text("melds4"), "");
+    EXPECT_NE(pixel(settled_shot(), 565, 105), kFeltGreen) << "a whole card beside seat 3's fan";
+    draw(kStock);
+    discard(1);
+    wait_for_turn();
+  }
   expect_still_running();
 }
 
