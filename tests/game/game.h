@@ -5,6 +5,7 @@
 
 #include "match/state_check.h"
 #include "platform/headless/headless_window.h"
+#include "platform/headless/silent_media.h"
 #include "shell/program.h"
 #include "tests/game/seen.h"
 #include "tools/simulation/quiet.h"
@@ -79,7 +80,10 @@ class Game {
   HeadlessWindow window{timer};
   MemoryArchive archive;
   CountingClock clock;
-  Program program{{window, timer, archive, clock}};
+  SilentMedia wave;
+  SilentMedia sequencer;
+  SilentBeeper beeper;
+  Program program{{window, timer, archive, clock, wave, sequencer, beeper}};
 
  private:
   void go_on(const std::function<bool()>& done) {
