@@ -3,8 +3,12 @@
 #include <QPainter>
 #include <QTransform>
 
-#include "table/pictures/pictures.h"
 #include "platform/desktop/rasteriser.h"
+#include "platform/desktop/surface_painter.h"
+#include "platform/headless/headless_window.h"
+#include "table/painted_table.h"
+#include "table/pictures/pictures.h"
+#include "tools/simulation/simulation.h"
 
 using tombrello::draw_picture;
 using tombrello::PictureSet;
@@ -12,11 +16,11 @@ using tombrello::rasterise;
 
 namespace {
 
-const QColor kFelt(0, 112, 0);
+const QColor kCloth(0, 112, 0);
 
 QImage felt(int width, int height) {
   QImage image(width, height, QImage::Format_RGB32);
-  image.fill(kFelt);
+  image.fill(kCloth);
   return image;
 }
 
@@ -69,6 +73,29 @@ QImage strip_sheet(int unit) {
                         lying(upright, 90));
     }
   }
+  return sheet;
+}
+
+QImage table_sheet(int width, int height) {
+  using namespace tombrello;
+  constexpr int kTurns = 26;
+  Simulation simulation(ScriptKind::melder, 7);
+  simulation.play_hand(kTurns, true);
+  State state = simulation.state();
+  state.nomi = {"TU", "OVEST", "NORD", "EST"};
+  state.di_turno = 1;
+  HeadlessTimer timer;
+  HeadlessWindow window(timer);
+  const Metrics metrics;
+  PaintedTable table(state, metrics, window);
+  window.surface().set_background(tombrello::kFelt);
+  window.surface().set_font_name("Arial");
+  table.repaint_hand();
+
+  QImage sheet(width, height, QImage::Format_RGB32);
+  QPainter painter(&sheet);
+  PictureCache pictures(draw_picture);
+  paint_surface(painter, window.surface(), {sheet.size(), 1, 96}, sheet.rect(), pictures);
   return sheet;
 }
 
