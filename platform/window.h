@@ -79,6 +79,7 @@ class Window {
   virtual void place(ControlId control, const Area& area) = 0;
   virtual void set_visible(ControlId control, bool visible) = 0;
   virtual bool visible(ControlId control) const = 0;
+  /// A field also takes the keyboard.
   virtual void bring_to_front(ControlId control) = 0;
   virtual void set_text(ControlId field, const std::string& text) = 0;
 };

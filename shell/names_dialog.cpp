@@ -57,6 +57,7 @@ void NamesDialog::personalize_players_Click() {
     window_.set_text(field, s_.nomi[static_cast<std::size_t>(i - 1)]);
     surface.print(label(i));
   }
+  window_.bring_to_front(TxtPlayer_0 + 1);
   for (const ControlId shape : {Shape1_0, Shape1_1}) {
     window_.place(shape, kConfirmButton);
     window_.set_visible(shape, true);

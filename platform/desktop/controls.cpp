@@ -137,12 +137,32 @@ void Field::paintEvent(QPaintEvent* event) {
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-ShapeControl::ShapeControl(Colour colour, QWidget& parent) : QWidget(&parent) {
+ShapeControl::ShapeControl(Colour colour, QWidget& parent)
+    : QWidget(&parent), colour_(to_qcolor(colour)) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  setAutoFillBackground(true);
-  QPalette colours = palette();
-  colours.setColor(QPalette::Window, to_qcolor(colour));
-  setPalette(colours);
+}
+
+// A raised bar with a tick: without a word it says that a press on it agrees.
+void ShapeControl::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF bar = rect();
+  QLinearGradient light(bar.topLeft(), bar.bottomLeft());
+  light.setColorAt(0, colour_.lighter(170));
+  light.setColorAt(0.45, colour_);
+  light.setColorAt(1, colour_.darker(130));
+  painter.setBrush(light);
+  painter.setPen(colour_.darker(220));
+  painter.drawRoundedRect(bar.adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+
+  const double unit = bar.height() / 10;
+  const QPointF middle = bar.center();
+  QPen pen(Qt::white, 1.6 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  painter.setPen(pen);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPolyline(QPolygonF({middle + QPointF(-3.2, 0.2) * unit,
+                                  middle + QPointF(-0.9, 2.5) * unit,
+                                  middle + QPointF(3.6, -2.5) * unit}));
 }
 
 void ShapeControl::fit(const Area& area, const TableGeometry& geometry) {

@@ -61,12 +61,18 @@ class Field : public QLineEdit, public Control {
   WindowEvents& events_;
 };
 
-/// A filled rectangle; a press on it is a press on the table under it.
+/// A bar that invites a press, which is a press on the table under it.
 class ShapeControl : public QWidget, public Control {
  public:
   ShapeControl(Colour colour, QWidget& parent);
   QWidget& widget() override { return *this; }
   void fit(const Area& area, const TableGeometry& geometry) override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor colour_;
 };
 
 /// A picture that can be clicked, and that takes the keyboard while it shows.

@@ -60,7 +60,10 @@ bool Overlay::visible(ControlId control) const {
 }
 
 void Overlay::bring_to_front(ControlId control) {
-  if (Placed* placed = find(control)) placed->control->widget().raise();
+  Placed* placed = find(control);
+  if (placed == nullptr) return;
+  placed->control->widget().raise();
+  if (dynamic_cast<Field*>(placed->control.get()) != nullptr) placed->control->widget().setFocus();
 }
 
 void Overlay::set_text(ControlId field, const std::string& text) {
