@@ -48,8 +48,8 @@ std::vector<std::string> MemoryArchive::list(const std::string& folder) {
 }
 
 void HeadlessWindow::serve_events() {
-  ++passes_;
-  if (on_pass) on_pass();
+  if (++passes_ > most_passes) close();
+  if (on_pass && !closing_) on_pass();
   if (closing_) return;
   if (timer_.running()) {
     end_timer();

@@ -51,8 +51,10 @@ class HeadlessWindow : public Window {
   /// Runs at the start of every pass, whatever the game waits for.
   Action on_pass;
   /// One action for each pass in which the game waits for the player and no timer runs. When
-  /// they have run out the player leaves, so that no script can hang.
+  /// they have run out the player leaves.
   std::deque<Action> script;
+  /// The player leaves after so many passes, whatever the script says.
+  int most_passes = 200'000;
   /// Runs while a box stands, before it is answered.
   Action on_box;
   /// Answers to boxes of yes and no; yes when they have run out.

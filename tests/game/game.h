@@ -38,9 +38,10 @@ class Game {
     for (int i = 0; i < times; ++i) then([this] { window.press(400, 300); });
     return *this;
   }
-  /// The player goes on until `done`, looked at whenever the game waits for a press.
-  Game& until(const std::function<bool()>& done) {
-    return then([this, done] { go_on(done); });
+  /// The player goes on until `done`, looked at whenever the game waits for a press, and acts
+  /// in every so-many-th pass.
+  Game& until(const std::function<bool()>& done, int every = 1) {
+    return then([=, this] { go_on(done, every); });
   }
   Game& until_own_turn() {
     return until([this] { return is_own_turn(); });
@@ -86,10 +87,10 @@ class Game {
   Program program{{window, timer, archive, clock, wave, sequencer, beeper}};
 
  private:
-  void go_on(const std::function<bool()>& done) {
+  void go_on(const std::function<bool()>& done, int every) {
     if (done()) return;
-    act();
-    window.script.push_front([this, done] { go_on(done); });
+    if (window.passes() % every == 0) act();
+    window.script.push_front([=, this] { go_on(done, every); });
   }
   bool in_hand() const { return s().n_mano[2] + s().n_mano[4] + s().n_mano[1] > 0; }
 

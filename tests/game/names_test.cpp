@@ -184,23 +184,26 @@ TEST(NamesDialog, ConfirmedInAReplayedHandTheTableIsPaintedAgain) {
   EXPECT_TRUE(game.window.script.empty());
 }
 
-TEST(NamesDialog, ConfirmedWhileTheOpenHandsAreShownTheyStayOpen) {
+TEST(NamesDialog, ConfirmedInADealOrWhileTheOpenHandsAreShownWhatStoodStands) {
   Game game(3, kept_deal());
-  bool done = false;
   game.choose(menu_replay).until_scoreboard();
+  std::vector<std::size_t> stood;
   game.window.on_pass = [&] {
-    const bool shown = game.timer.running() && has(game.pictures(), "carta") &&
-                       !game.is_dealing() && game.s().n_mano[game.s().di_turno] == 0 &&
-                       game.timer.period() == 3900;
-    if (done || !shown) return;
-    done = true;
+    const State& s = game.s();
+    const bool dealing = game.is_dealing() && s.mano[1][3] != 0 && s.mano[1][4] == 0;
+    const bool open = game.timer.running() && game.timer.period() == 3900 &&
+                      s.n_mano[s.di_turno] == 0 && has(game.pictures(), "cartao");
+    if (!(dealing && stood.empty()) && !(open && stood.size() == 1)) return;
     game.window.choose(personalize_players);
     const Lines before = faces(game);
     game.window.press(100, 120);
     EXPECT_EQ(faces(game), before);
+    stood.push_back(before.size());
   };
   game.play();
-  EXPECT_TRUE(done);
+  ASSERT_EQ(stood.size(), 2U);
+  EXPECT_EQ(stood[0], 3U) << "the cards dealt so far";
+  EXPECT_GT(stood[1], 39U);
 }
 
 TEST(Repaint, TheStockShowsUnlessItsLastCardWasTaken) {

@@ -37,18 +37,6 @@ TEST(Opening, APictureOnGreyThatAClickAKeyOrAPressBesideDismisses) {
   }
 }
 
-TEST(Opening, APanelStaysOverTheTableAfterAClickOnThePicture) {
-  for (const bool beside : {false, true}) {
-    Game game;
-    game.choose(istruzioni).then([&] {
-      EXPECT_EQ(game.window.front(), TxtItaliano);
-      beside ? game.window.press(700, 50) : (void)game.window.click(quadro);
-    });
-    game.then([&] { EXPECT_NE(game.window.visible(TxtItaliano), beside); });
-    game.play();
-  }
-}
-
 // The dealer that a deck gives: passes of four slots, each three slots on.
 int expected_dealer(const State& s, int& ties) {
   for (int first = 1;; first += 3) {
@@ -85,26 +73,6 @@ TEST(DrawForDealer, TheHighestRankDealsAndATieIsRepeated) {
     ties_seen += ties;
   }
   EXPECT_GT(ties_seen, 0);
-}
-
-TEST(DrawForDealer, CardsComeToTheSeatsInTurnAndOnlyForPressesOnTheDeck) {
-  Game game;
-  game.dismiss().then([&] { game.window.press(355, 300); });
-  game.then([&] {
-    EXPECT_EQ(game.pictures().size(), 1U);
-    game.window.press(400, 300);
-  });
-  const auto expect_next = [&](std::size_t cards, const char* place) {
-    game.then([&game, cards, place] {
-      EXPECT_EQ(game.pictures().size(), cards + 1);
-      EXPECT_TRUE(has(game.pictures(), place));
-      game.window.press(400, 300);
-    });
-  };
-  expect_next(1, " 20,252.875 80,347.125");
-  expect_next(2, " 370,20 430,114.25");
-  expect_next(3, " 720,252.875 780,347.125");
-  game.play();
 }
 
 // Hands as they were dealt, and the card turned up.
@@ -150,20 +118,9 @@ TEST(Replay, DealsTheSameCardsAgainInTheNextRunAndTheOneAfter) {
   EXPECT_NE(deal_and_leave(shuffled), cards) << "without the mark";
 }
 
-constexpr const char* kNoHand = "Nessuna mano è stata ancora giocata";
 constexpr const char* kNotice =
     "Nel punteggio finale saranno riportati i risultati della mano ripetuta\n"
     "Questi sostituiranno quelli della mano precedente";
-
-TEST(Replay, WithoutAKeptDealThereIsOnlyAMessage) {
-  Game game;
-  game.choose(menu_replay).dismiss().then([&] {
-    EXPECT_FALSE(game.window.checked(menu_replay));
-    EXPECT_TRUE(game.is_drawing());
-  });
-  game.play();
-  EXPECT_EQ(game.window.boxes, (Lines{kNoHand}));
-}
 
 TEST(Replay, TheMarkLivesForOneHandAndTheNextIsShuffled) {
   Game game(3, kept_deal());
@@ -248,7 +205,11 @@ TEST(Menus, TheTree) {
 }
 
 TEST(Menus, WhatIsEnabledWhen) {
-  Game game(4);
+  Game game(4);  // without a kept deal
+  game.choose(menu_replay).then([&] {
+    EXPECT_EQ(game.window.boxes, (Lines{"Nessuna mano è stata ancora giocata"}));
+    EXPECT_FALSE(game.window.checked(menu_replay));
+  });
   const auto expect = [&](const char* when, bool replay, bool go_on, bool names) {
     game.then([=, &game] {
       EXPECT_EQ(game.window.enabled(menu_replay), replay) << when;
@@ -277,41 +238,36 @@ TEST(Menus, WhatIsEnabledWhen) {
   EXPECT_TRUE(game.window.script.empty());
 }
 
-TEST(Menus, SpeedsLastForTheRunAndStartAtTheSlowest) {
+TEST(Menus, ASpeedLastsForTheRunTheRustleIsWrittenAtOnce) {
   Game game(1, kept_deal());
-  game.choose(velocita_0 + 3).dismiss().then([&] {
-    EXPECT_EQ(game.s().ritardo_base, 0.5F) << "each match starts slow, whatever is checked";
+  game.choose(velocita_3).dismiss().then([&] {
+    EXPECT_EQ(game.s().ritardo_base, 0.5F) << "a match starts slow, whatever is checked";
     EXPECT_TRUE(game.window.checked(velocita_3));
   });
   for (int index = 1; index <= 3; ++index) {
     game.choose(velocita_0 + index).then([&game, index] {
       EXPECT_EQ(game.s().ritardo_base, static_cast<float>(index) / 2);
       for (int i = 1; i <= 3; ++i) EXPECT_EQ(game.window.checked(velocita_0 + i), i == index);
+      EXPECT_EQ(game.archive.writes, 0);
     });
   }
-  game.choose(menu_card_rustle_0);
   game.play();
-  EXPECT_TRUE(game.archive.files["config.zvq"].starts_with(" 2 \r\n")) << "as it was read";
-}
-
-TEST(Menus, TheRustleIsWrittenAtOnce) {
-  Game game(1, kept_deal());
-  game.then([&] { EXPECT_TRUE(game.window.checked(menu_card_rustle_1)); });
+  Game rustle(1, kept_deal());
+  rustle.then([&] { EXPECT_TRUE(rustle.window.checked(menu_card_rustle_1)); });
   for (const int on : {0, 1}) {
-    game.choose(menu_about).choose(menu_card_rustle_0 + on).then([&game, on] {
-      EXPECT_FALSE(game.window.visible(Text4));
-      EXPECT_EQ(game.window.checked(menu_card_rustle_0), on == 0);
-      EXPECT_EQ(game.window.checked(menu_card_rustle_1), on == 1);
+    rustle.choose(menu_about).choose(menu_card_rustle_0 + on).then([&rustle, on] {
+      EXPECT_FALSE(rustle.window.visible(Text4));
+      EXPECT_EQ(rustle.window.checked(menu_card_rustle_0), on == 0);
+      EXPECT_EQ(rustle.window.checked(menu_card_rustle_1), on == 1);
       std::string file = kept_deal();
       if (on == 0) file.replace(file.find("UGO\r\n 1 ") + 6, 1, "0");
-      EXPECT_EQ(game.archive.files["config.zvq"], file);
+      EXPECT_EQ(rustle.archive.files["config.zvq"], file);
     });
   }
-  game.play();
-  EXPECT_EQ(game.archive.writes, 2);
+  rustle.play();
 }
 
-TEST(Menus, PanelsReplaceEachOtherAndAnyPressHidesThem) {
+TEST(Menus, PanelsReplaceEachOtherAndToggle) {
   Game game;
   const auto shows = [&](ControlId panel) {
     game.then([&game, panel] {
@@ -323,28 +279,22 @@ TEST(Menus, PanelsReplaceEachOtherAndAnyPressHidesThem) {
   };
   for (const auto& [entry, panel] :
        {std::pair{menu_help, TxtHelp}, {istruzioni, TxtItaliano}, {menu_about, Text4}}) {
-    shows(0);
-    game.choose(entry);
+    game.choose(menu_help == entry ? menu_about : menu_help).choose(entry);
     shows(panel);
     game.choose(entry);
     shows(0);
     game.choose(entry).then([&game, panel = panel] { game.window.click(panel); });
     shows(0);
-    game.choose(menu_help == entry ? menu_about : menu_help).choose(entry);
-    shows(panel);
-    game.choose(entry);
   }
   game.choose(menu_help).dismiss();
-  shows(TxtHelp);
+  shows(TxtHelp);  // the picture's click isn't a press on the table
   game.press_deck().then([&] { EXPECT_EQ(game.pictures().size(), 2U) << "it acted as well"; });
   shows(0);
-  game.then([&] {
-    EXPECT_EQ(game.window.area(TxtHelp), (Area{0, 0, 285, 197.7F}));
-    EXPECT_EQ(game.window.area(TxtItaliano), (Area{0, 0, 285, 197.7F}));
-    EXPECT_EQ(game.window.area(Text4), (Area{0, 0, 150.8F, 80.1F}));
-    EXPECT_TRUE(game.window.text(Text4).starts_with("Tombrello ver 3.3\n--"));
-  });
   game.play();
+  EXPECT_EQ(game.window.area(TxtHelp), (Area{0, 0, 285, 197.7F}));
+  EXPECT_EQ(game.window.area(TxtItaliano), (Area{0, 0, 285, 197.7F}));
+  EXPECT_EQ(game.window.area(Text4), (Area{0, 0, 150.8F, 80.1F}));
+  EXPECT_TRUE(game.window.text(Text4).starts_with("Tombrello ver 3.3\n--"));
 }
 
 TEST(Leaving, EsciAsksAndNoGoesOn) {
@@ -374,7 +324,6 @@ TEST(Leaving, TheFramesCloseUnwindsEveryWaitAtOnceAndSavesNothing) {
     Game game(2, "", ScriptKind::simple);
     int writes = 0;
     game.window.on_pass = [&] {
-      ASSERT_LT(game.window.passes(), 20000) << wait;
       if (wait_of(game) != wait) return;
       writes = game.archive.writes;
       game.window.close();
@@ -386,42 +335,20 @@ TEST(Leaving, TheFramesCloseUnwindsEveryWaitAtOnceAndSavesNothing) {
   }
 }
 
-TEST(Leaving, FromEachOfTheFirstPasses) {
-  for (int pass = 1; pass <= 150; ++pass) {
-    Game game(9);
-    int writes = 0;
-    game.window.on_pass = [&] {
-      if (game.window.passes() != pass) return;
-      writes = game.archive.writes;
-      game.window.close();
-    };
-    game.until([] { return false; });
-    game.play();
-    EXPECT_EQ(game.window.passes(), pass);
-    EXPECT_EQ(game.archive.writes, writes);
-  }
-}
-
 TEST(Leaving, UnderABox) {
-  for (const EntryId entry : {menu_replay, esci}) {
-    for (const char* settings : {"", "kept"}) {
-      Game game(1, *settings == '\0' ? "" : kept_deal());
+  for (const char* box : {"Nessuna", "Nel punteggio", "Uscire", "Ripeti"}) {
+    bool seen_it = false;
+    for (std::uint64_t seed = 1; !seen_it && seed <= 60; ++seed) {  // not every draw has a tie
+      Game game(seed, *box == 'N' && box[2] == 'l' ? kept_deal() : "");
       game.window.on_box = [&] { game.window.close(); };
-      game.choose(entry).then([] { FAIL(); });
+      if (*box == 'N') game.choose(menu_replay);
+      if (*box == 'U') game.choose(esci);
+      game.until([&] { return !game.is_drawing() && !game.window.visible(quadro); });
       game.play();
-      EXPECT_EQ(game.window.boxes.size(), 1U);
-      EXPECT_EQ(game.archive.writes, 0);
+      seen_it = game.window.boxes.size() == 1 && game.window.boxes[0].starts_with(box);
+      EXPECT_TRUE(!seen_it || game.archive.writes == 0);
     }
-  }
-  for (std::uint64_t seed = 1;; ++seed) {  // a draw with a tie
-    Game game(seed);
-    game.window.on_box = [&] { game.window.close(); };
-    game.until([&] { return !game.is_drawing() && !game.window.visible(quadro); });
-    game.play();
-    if (game.window.boxes.empty()) continue;
-    EXPECT_EQ(game.window.boxes, (Lines{"Ripeti, prego"}));
-    EXPECT_EQ(game.archive.writes, 0);
-    break;
+    EXPECT_TRUE(seen_it) << box;
   }
 }
 

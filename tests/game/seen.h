@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -21,26 +22,11 @@ inline std::string at(float x, float y) {
 }
 
 inline std::string colour_name(Colour colour) {
-  switch (colour) {
-    case kFelt:
-      return "felt";
-    case kGrey:
-      return "grey";
-    case kGreen:
-      return "green";
-    case kWhite:
-      return "white";
-    case kBlue:
-      return "blue";
-    case kBlack:
-      return "black";
-    case kPaleYellow:
-      return "pale";
-    case kYellow:
-      return "yellow";
-    default:
-      return std::to_string(colour);
-  }
+  const std::map<Colour, std::string> names = {
+      {kFelt, "felt"}, {kGrey, "grey"},   {kGreen, "green"},     {kWhite, "white"},
+      {kBlue, "blue"}, {kBlack, "black"}, {kPaleYellow, "pale"}, {kYellow, "yellow"}};
+  const auto found = names.find(colour);
+  return found == names.end() ? std::to_string(colour) : found->second;
 }
 
 /// One item as a line: "carta14 250,485.75 310,580", with "turned" behind a half turn;
@@ -71,7 +57,7 @@ inline std::string seen(const Item& item) {
          colour_name(text.colour);
 }
 
-enum class Kind { everything, pictures, texts, boxes };
+enum class Kind { boxes, pictures, texts, everything };  // as the alternatives of Item
 
 /// True if one of the lines is, or holds, this text.
 inline bool has(const Lines& lines, const std::string& text) {
@@ -82,9 +68,8 @@ inline bool has(const Lines& lines, const std::string& text) {
 inline Lines seen(const Surface& surface, Kind kind = Kind::everything) {
   Lines lines;
   for (const Item& item : surface.items()) {
-    const auto index = static_cast<std::size_t>(kind);
-    constexpr std::size_t kIndex[] = {9, 1, 2, 0};  // alternatives of Item
-    if (kind == Kind::everything || item.index() == kIndex[index]) lines.push_back(seen(item));
+    const bool wanted = kind == Kind::everything || item.index() == static_cast<std::size_t>(kind);
+    if (wanted) lines.push_back(seen(item));
   }
   return lines;
 }
