@@ -1,6 +1,7 @@
 #include "desktop_session.h"
 
 #include <signal.h>
+#include <sys/prctl.h>
 
 #include <algorithm>
 #include <cmath>
@@ -32,14 +33,6 @@ constexpr const char* kManagerFile = R"(<?xml version="1.0"?>
 </keyboard>
 </openbox_config>
 )";
-
-void require_tools() {
-  for (const char* tool : {"Xvfb", "openbox", "xdotool", "import", "xclip"}) {
-    if (run({"which", tool}, {}).status != 0) {
-      throw std::runtime_error(std::string("these tests need ") + tool + ": tools/setup.sh check");
-    }
-  }
-}
 
 }  // namespace
 
@@ -90,44 +83,70 @@ int Shot::pixel(int x, int y) const {
   return byte(0) << 16 | byte(1) << 8 | byte(2);
 }
 
+// It goes with the test program, however that ends.
+std::unique_ptr<QProcess> DesktopSession::launch(const std::vector<std::string>& words) {
+  auto process = std::make_unique<QProcess>();
+  process->setProcessEnvironment(environment);
+  process->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+  QStringList arguments;
+  for (const auto& word : words) arguments << QString::fromStdString(word);
+  const QString program = arguments.takeFirst();
+  process->start(program, arguments);
+  if (process->waitForStarted(20000)) return process;
+  throw std::runtime_error(words[0] + " can't be run; tools/setup.sh check installs the tools");
+}
+
+Outcome DesktopSession::run(const std::vector<std::string>& words, const std::string& input) {
+  const auto process = launch(words);
+  process->write(input.data(), static_cast<qint64>(input.size()));
+  process->closeWriteChannel();
+  if (!process->waitForFinished(30000)) throw std::runtime_error(words[0] + " takes too long");
+  return {process->exitStatus() == QProcess::NormalExit ? process->exitCode() : 128,
+          process->readAllStandardOutput().toStdString(),
+          process->readAllStandardError().toStdString()};
+}
+
+// The program's own ways alone decide: nothing of the machine's session reaches it.
 void DesktopSession::SetUp() {
-  require_tools();
   std::string pattern = (files::temp_directory_path() / "tombrello-XXXXXX").string();
   if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the test");
   folder = pattern;
-  // The program's own ways alone decide: nothing of the machine's session reaches it.
-  environment = {"HOME=" + pattern, "XDG_RUNTIME_DIR=" + pattern,
-                 "LC_ALL=C.UTF-8",  "SDL_AUDIODRIVER=dummy",
-                 "XDG_DATA_HOME",   "XDG_CONFIG_HOME",
-                 "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
-                 "QT_QPA_PLATFORM", "DISPLAY"};
+  environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "WAYLAND_DISPLAY",
+                           "DBUS_SESSION_BUS_ADDRESS", "QT_QPA_PLATFORM"}) {
+    environment.remove(name);
+  }
+  for (const char* name : {"HOME", "XDG_RUNTIME_DIR"}) {
+    environment.insert(name, QString::fromStdString(pattern));
+  }
+  environment.insert("LC_ALL", "C.UTF-8");
+  environment.insert("SDL_AUDIODRIVER", "dummy");
   start_screen();
 }
 
 void DesktopSession::start_screen() {
-  screen_ =
-      std::make_unique<Child>(std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0",
-                                                       kScreenSize, "-nolisten", "tcp", "-noreset"},
-                              environment);
-  const auto end = Clock::now() + Milliseconds(20000);
-  while (screen_->out.find('\n') == std::string::npos && Clock::now() < end) {
-    screen_->listen(Milliseconds(100));
+  screen_ = launch(
+      {"Xvfb", "-displayfd", "1", "-screen", "0", kScreenSize, "-nolisten", "tcp", "-noreset"});
+  while (!screen_->canReadLine()) {
+    if (!screen_->waitForReadyRead(20000)) throw std::runtime_error("Xvfb doesn't start");
   }
-  if (screen_->out.empty()) throw std::runtime_error("Xvfb doesn't start: " + screen_->err);
-  environment.back() = "DISPLAY=:" + std::to_string(std::stoi(screen_->out));
+  environment.insert("DISPLAY", ":" + QString(screen_->readLine()).trimmed());
   std::ofstream(folder / "rc.xml") << kManagerFile;
-  manager_ = std::make_unique<Child>(
-      std::vector<std::string>{"openbox", "--config-file", folder / "rc.xml"}, environment);
+  manager_ = launch({"openbox", "--config-file", folder / "rc.xml"});
+  const auto end = Clock::now() + Milliseconds(20000);
   while (xdo({"get_desktop"}).status != 0) {
     if (Clock::now() > end) throw std::runtime_error("openbox doesn't start");
   }
 }
 
 void DesktopSession::TearDown() {
-  if (HasFailure() && game) std::fputs((view.everything() + game->err + "\n").c_str(), stderr);
-  game.reset();
-  manager_.reset();
-  screen_.reset();
+  if (HasFailure() && game) std::fputs((view.everything() + err + "\n").c_str(), stderr);
+  for (auto* process : {&game, &manager_, &screen_}) {
+    if (!*process) continue;
+    (*process)->kill();
+    (*process)->waitForFinished(5000);
+    process->reset();
+  }
   std::error_code ignored;
   files::remove_all(folder, ignored);
 }
@@ -147,20 +166,28 @@ void DesktopSession::start_shipped() {
 void DesktopSession::start(const std::vector<std::string>& words) {
   view = {};
   read_ = 0;
-  game = std::make_unique<Child>(words, environment);
+  out.clear();
+  err.clear();
+  game = launch(words);
   const auto end = Clock::now() + kPatience * Milliseconds(20000);
   for (window.clear(); window.empty();) {
-    if (Clock::now() > end) throw std::runtime_error("no window: " + game->err);
+    if (Clock::now() > end) throw std::runtime_error("no window: " + err);
     window = xdo({"search", "--onlyvisible", "--name", "^Frassivo - Tombrello$"}).out;
     window = window.substr(0, window.find('\n'));
     read_view();
   }
 }
 
+void DesktopSession::listen(int milliseconds) {
+  game->waitForReadyRead(milliseconds);
+  out += game->readAllStandardOutput().toStdString();
+  err += game->readAllStandardError().toStdString();
+}
+
 void DesktopSession::read_view() {
-  game->listen(Milliseconds(10));
-  for (std::size_t end; (end = game->out.find('\n', read_)) != std::string::npos;) {
-    view.take(game->out.substr(read_, end - read_));
+  listen(10);
+  for (std::size_t end; (end = out.find('\n', read_)) != std::string::npos;) {
+    view.take(out.substr(read_, end - read_));
     read_ = end + 1;
     if (!view.text("fault").empty()) throw std::runtime_error(view.text("fault"));
   }
@@ -169,7 +196,7 @@ void DesktopSession::read_view() {
 bool DesktopSession::comes_true(const std::function<bool(const View&)>& holds, Milliseconds most) {
   const auto end = Clock::now() + kPatience * most;
   for (read_view(); !holds(view); read_view()) {
-    if (game->wait(Milliseconds(0))) throw std::runtime_error("it ended by itself: " + game->err);
+    if (game->state() == QProcess::NotRunning) throw std::runtime_error("it has ended: " + err);
     if (Clock::now() > end) return false;
   }
   return true;
@@ -187,7 +214,7 @@ void DesktopSession::wait_for(const std::string& key, int value) {
 
 Outcome DesktopSession::xdo(std::vector<std::string> words) {
   words.insert(words.begin(), "xdotool");
-  return run(words, environment);
+  return run(words);
 }
 
 void DesktopSession::find_size() {
@@ -246,7 +273,7 @@ void DesktopSession::type(const std::string& text) {
 }
 
 void DesktopSession::paste(const std::string& text) {
-  run({"xclip", "-selection", "clipboard"}, environment, text);
+  run({"xclip", "-selection", "clipboard"}, text);
   key("ctrl+v");
 }
 
@@ -263,7 +290,7 @@ void DesktopSession::dismiss_opening() {
 }
 
 Shot DesktopSession::shot() {
-  const Outcome grabbed = run({"import", "-window", window, "-depth", "8", "ppm:-"}, environment);
+  const Outcome grabbed = run({"import", "-window", window, "-depth", "8", "ppm:-"});
   Shot result;
   std::istringstream picture(grabbed.out);
   std::string magic;
@@ -291,24 +318,30 @@ int DesktopSession::pixel(const Shot& picture, float x, float y) {
   return picture.pixel(place.x, place.y);
 }
 
+void DesktopSession::send(int signal) const {
+  kill(static_cast<pid_t>(game->processId()), signal);
+}
+
 void DesktopSession::expect_quiet_end() {
   const auto asked = Clock::now();
-  const auto status = game->wait(kPatience * Milliseconds(10000));
+  ASSERT_TRUE(game->waitForFinished(kPatience * 10000)) << "it goes on";
   const auto took = std::chrono::duration_cast<Milliseconds>(Clock::now() - asked);
   RecordProperty("ended_after_ms", static_cast<int>(took.count()));
-  ASSERT_TRUE(status.has_value()) << "it goes on";
-  EXPECT_EQ(*status, 0);
   EXPECT_LT(took.count(), kPatience * 1000);
-  EXPECT_EQ(game->err, "");
-  std::istringstream lines(game->out);
+  EXPECT_EQ(game->exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(game->exitCode(), 0);
+  listen(0);
+  EXPECT_EQ(err, "");
+  std::istringstream lines(out);
   for (std::string line; std::getline(lines, line);) {
     EXPECT_NE(line.find('\t'), std::string::npos) << line;
   }
 }
 
 void DesktopSession::expect_still_running() {
-  EXPECT_EQ(game->wait(Milliseconds(0)), std::nullopt);
-  EXPECT_EQ(game->err, "");
+  listen(0);
+  EXPECT_EQ(game->state(), QProcess::Running);
+  EXPECT_EQ(err, "");
 }
 
 std::string DesktopSession::file(const std::string& name) const {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QProcess>
 #include <chrono>
 #include <filesystem>
 #include <functional>
@@ -9,8 +10,6 @@
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "child.h"
 
 namespace tombrello {
 
@@ -41,6 +40,12 @@ struct Shot {
 
   int pixel(int x, int y) const;  ///< 0xRRGGBB
   bool operator==(const Shot&) const = default;
+};
+
+struct Outcome {
+  int status = 0;  ///< of the exit, or 128 after a crash
+  std::string out;
+  std::string err;
 };
 
 /// The numbers that the quick game is started with.
@@ -80,6 +85,8 @@ class DesktopSession : public ::testing::Test {
   void type(const std::string& text);
   void paste(const std::string& text);
   Outcome xdo(std::vector<std::string> words);
+  /// Runs a short command to its end; throws if it takes longer than half a minute.
+  Outcome run(const std::vector<std::string>& words, const std::string& input = {});
 
   void resize(int width, int height);  ///< once the window isn't maximised any more
   void maximise_or_not() { key("alt+F10"); }
@@ -89,14 +96,17 @@ class DesktopSession : public ::testing::Test {
   /// The game ends soon, with status 0 and without a word.
   void expect_quiet_end();
   void expect_still_running();
+  void send(int signal) const;
   std::string file(const std::string& name) const;
   int pixel(const Shot& shot, float x, float y);
 
   View view;
   std::filesystem::path folder;
-  std::unique_ptr<Child> game;
+  std::unique_ptr<QProcess> game;
+  std::string out;  ///< all that the game has written
+  std::string err;
   std::string window;
-  std::vector<std::string> environment;
+  QProcessEnvironment environment;
 
  private:
   struct Place {
@@ -104,12 +114,14 @@ class DesktopSession : public ::testing::Test {
     int y;
   };
   Place place_of(float x, float y) const;
+  std::unique_ptr<QProcess> launch(const std::vector<std::string>& words);
+  void listen(int milliseconds);
   void read_view();
   void start_screen();
   void find_size();
 
-  std::unique_ptr<Child> screen_;
-  std::unique_ptr<Child> manager_;
+  std::unique_ptr<QProcess> screen_;
+  std::unique_ptr<QProcess> manager_;
   std::size_t read_ = 0;
   int width_ = 0;
   int height_ = 0;

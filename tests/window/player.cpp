@@ -94,14 +94,19 @@ std::vector<int> find_meld(const std::vector<int>& hand) {
   return {};
 }
 
+void PlayingSession::turn_up(int first, int last) {
+  for (int card = first; card <= last; ++card) {
+    press(400, 300);
+    wait_until("card " + std::to_string(card) + " for dealer", [&](const View& v) {
+      return v.number("index") > card || v.number("action") != 7 || !v.text("box").empty();
+    });
+  }
+}
+
 void PlayingSession::begin(Quick quick) {
   start_quick(quick);
   dismiss_opening();
-  for (int card = 1; card <= 4; ++card) {
-    press(400, 300);
-    wait_until("card " + std::to_string(card) + " for dealer",
-               [&](const View& v) { return v.number("index") > card || v.number("action") != 7; });
-  }
+  turn_up(1, 4);
   wait_for("pile", 1);
 }
 

@@ -35,6 +35,8 @@ class PlayingSession : public DesktopSession {
   static constexpr float kPile = 370;
   static constexpr float kStock = 430;
 
+  /// Presses the deck for cards of the draw until `index` would pass `last`, or a box shows.
+  void turn_up(int first, int last);
   void begin(Quick quick);  ///< up to the end of the deal; the draw for dealer has no tie
   void wait_for_turn();     ///< or for the end of the hand
   bool hand_is_over() const;

@@ -1,5 +1,3 @@
-#include <signal.h>
-
 #include <algorithm>
 #include <random>
 
@@ -176,8 +174,8 @@ TEST_F(Shell, TheLastHandCanBeDealtAgain) {
   const auto dealt = view.numbers("deck");
   const int dealer = view.number("dealer");
   const std::string hands = view.text("hand1") + view.text("hand2") + view.text("hand3");
-  game->send(SIGKILL);
-  game->wait(Milliseconds(5000));
+  game->kill();
+  game->waitForFinished(5000);
 
   start_quick({.clock = 777, .turns = 200});
   for (int times = 0; times < 2; ++times) {

@@ -30,12 +30,7 @@ class Stop : public PlayingSession,
         start_quick(
             {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .deal = 2});
         dismiss_opening();
-        for (int card = 1; card <= 4; ++card) {
-          press(400, 300);
-          wait_until("the next card", [&](const View& v) {
-            return v.number("index") > card || v.number("action") == 0;
-          });
-        }
+        turn_up(1, 4);
         return wait_until("the first cards", [](const View& v) {
           const auto cards = v.numbers("hand2");
           return cards.size() > 2 && cards[1] != 0;
@@ -60,7 +55,7 @@ TEST_P(Stop, EndsAtOnce) {
   if (manner == Manner::frame) {
     close_by_frame();
   } else {
-    game->send(SIGTERM);
+    send(SIGTERM);
   }
   expect_quiet_end();
 }
@@ -85,13 +80,9 @@ using StopOver = PlayingSession;
 TEST_F(StopOver, ATerminationSignalTakesDownTheTieBox) {
   start_quick({.clock = find_clock([](const Fortune& f) { return f.dealer == 0; })});
   dismiss_opening();
-  for (int card = 1; card <= 4; ++card) {
-    press(400, 300);
-    wait_until("a card",
-               [&](const View& v) { return v.number("index") > card || v.text("box") != ""; });
-  }
+  turn_up(1, 4);
   wait_until("the box", [](const View& v) { return v.text("box") == "Ripeti, prego"; });
-  game->send(SIGTERM);
+  send(SIGTERM);
   expect_quiet_end();
 }
 
@@ -130,7 +121,7 @@ TEST_F(StopOver, ATerminationSignalUnderTheQuestionAndUnderAMenu) {
   start_quick();
   key("alt+e");
   wait_until("the question", [](const View& v) { return !v.text("box").empty(); });
-  game->send(SIGTERM);
+  send(SIGTERM);
   expect_quiet_end();
 
   start_quick();
@@ -138,7 +129,7 @@ TEST_F(StopOver, ATerminationSignalUnderTheQuestionAndUnderAMenu) {
   press_screen("Opzioni");
   press_screen("Velocità gioco");
   wait_until("both menus", [](const View& v) { return v.has("Alta"); });
-  game->send(SIGTERM);
+  send(SIGTERM);
   expect_quiet_end();
 }
 
@@ -174,7 +165,7 @@ TEST_F(Shipped, OpensDealsAndCloses) {
   EXPECT_TRUE(dealing);
   close_by_frame();
   expect_quiet_end();
-  EXPECT_EQ(game->out, "");
+  EXPECT_EQ(out, "");
 }
 
 TEST_F(Shipped, StartsWhateverLiesInTheSettingsFilesPlace) {
@@ -201,9 +192,9 @@ TEST_F(Shipped, StartsWhateverLiesInTheSettingsFilesPlace) {
 }
 
 TEST_F(Shipped, SaysInOneLineThatThereIsNoScreen) {
-  for (const char* display : {"DISPLAY", "DISPLAY=:9999"}) {
-    environment.back() = display;
-    const Outcome outcome = run({TOMBRELLO}, environment);
+  for (const char* display : {"", ":9999"}) {
+    environment.insert("DISPLAY", display);
+    const Outcome outcome = run({TOMBRELLO});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.out, "");
     EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;

@@ -65,12 +65,7 @@ TEST_F(Table, ATieIsDrawnAgain) {
                         ValCarta(f.draw[5]) < 13 && ValCarta(f.draw[6]) < 13;
                })});
   dismiss_opening();
-  for (int card = 1; card <= 4; ++card) {
-    press(400, 300);
-    wait_until("a card for dealer", [&](const View& v) {
-      return v.number("index") > card || v.text("box") == "Ripeti, prego";
-    });
-  }
+  turn_up(1, 4);
   wait_until("the box", [](const View& v) { return v.text("box") == "Ripeti, prego"; });
   press(400, 100);  // beside the box: it stays
   expect_still_running();
@@ -78,11 +73,7 @@ TEST_F(Table, ATieIsDrawnAgain) {
   press_screen("OK");
   wait_until("the second pass", [](const View& v) { return v.text("box").empty(); });
   EXPECT_EQ(view.number("index"), 4) << "seat 2 gets the card that seat 1 had";
-  for (int card = 4; card <= 7; ++card) {
-    press(400, 300);
-    wait_until("a card of the second pass",
-               [&](const View& v) { return v.number("index") > card || v.number("action") != 7; });
-  }
+  turn_up(4, 7);
   wait_for("pile", 1);
   EXPECT_EQ(view.number("dealer"), 1);
 }
