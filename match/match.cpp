@@ -27,8 +27,8 @@ void Match::prepare_match() {
 }
 
 void Match::start_hand() {
-  out_.shell.deal_begins();
   out_.wait.ritardo(0.01F);
+  out_.shell.deal_begins();
   Gioco_Imposta();
   deck_.daicarte();
 }

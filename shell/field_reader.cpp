@@ -115,6 +115,8 @@ void append_utf8(std::string& text, char16_t c) {
 }  // namespace
 
 std::string as_utf8(const std::string& bytes) {
+  constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";  // some editors put it in front
+  if (bytes.starts_with(kByteOrderMark)) return as_utf8(bytes.substr(3));
   if (is_utf8(bytes)) return bytes;
   std::string text;
   for (const char byte : bytes) {

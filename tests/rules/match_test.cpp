@@ -52,8 +52,8 @@ TEST(Match, BeginsWithTheDrawAndDealsAFreshDeck) {
   EXPECT_EQ(only(d.log, {"names", "continue", "replay", "clear", "dealer_screen", "deal_begins",
                          "ritardo 0.01", "Set_Write"}),
             (Log{"names 1", "continue 0", "clear", "dealer_screen", "continue 0", "names 1",
-                 "names 0", "names 0", "names 0", "names 0", "replay 0", "deal_begins",
-                 "ritardo 0.01", "clear", "Set_Write", "ritardo 0.01"}));
+                 "names 0", "names 0", "names 0", "names 0", "replay 0", "ritardo 0.01",
+                 "deal_begins", "clear", "Set_Write", "ritardo 0.01"}));
 }
 
 // A kept hand is dealt again without a draw, and counted in row 0; the hands after it are
