@@ -73,8 +73,7 @@ class Line {
   std::string text_;
 };
 
-std::string state_line(const State& s) {
-  Line line("state");
+void add_state(Line& line, const State& s) {
   line.add("seat", s.di_turno).add("action", s.azione).add("drawn", s.ha_pescato);
   line.add("dealer", s.cartaro).add("turned", s.valori_estratti, 1, kSeats);
   line.add("index", s.indice_estrazione).add("n", s.n_mano, 1, kSeats);
@@ -91,11 +90,9 @@ std::string state_line(const State& s) {
   // Between turns, which is when seat 1 is waited for, the state must be sound.
   const bool between_turns = s.di_turno == 1 && !s.ha_pescato && s.n_pozzo > 0;
   line.add("fault", between_turns ? check_state(s, {}) : "");
-  return line.text();
 }
 
-std::string window_line(const Window& w) {
-  Line line("window");
+void add_window(Line& line, const Window& w) {
   line.add("replay", w.enabled(menu_replay)).add("continue", w.enabled(menu_continue));
   line.add("names", w.enabled(personalize_players)).add("marked", w.checked(menu_replay));
   for (int i = 1; i <= 3; ++i) {
@@ -105,7 +102,6 @@ std::string window_line(const Window& w) {
   line.add("rules", w.visible(TxtItaliano)).add("help", w.visible(TxtHelp));
   line.add("info", w.visible(Text4)).add("dialog", w.visible(TxtPlayer_0 + 1));
   line.add("pointer", static_cast<int>(w.pointer()));
-  return line.text();
 }
 
 std::string place(const QWidget& widget, QPoint point) {
@@ -122,8 +118,7 @@ void add_actions(Line& line, const Container& container) {
   }
 }
 
-std::string screen_line() {
-  Line line("screen");
+void add_screen(Line& line) {
   const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   if (box != nullptr && !box->isActiveWindow()) box = nullptr;  // not in its place yet
   line.add("box", box == nullptr ? "" : box->text().section('\n', 0, 0).toStdString());
@@ -145,7 +140,6 @@ std::string screen_line() {
                place(*button, button->rect().center()));
     }
   }
-  return line.text();
 }
 
 }  // namespace
@@ -173,13 +167,16 @@ int main(int argc, char** argv) {
                    desktop.beeper()});
   desktop.set_media_events(&program);
   state = &program.state();
-  Teller tellers[4];
+  Teller deck;
+  Teller game;
   QTimer look;
   QObject::connect(&look, &QTimer::timeout, &look, [&] {
-    tellers[0].tell(state_line(program.state()));
-    tellers[1].tell(window_line(desktop.window()));
-    tellers[2].tell(screen_line());
-    tellers[3].tell(Line("cards").add("deck", program.state().mazzo, 1, kCards).text());
+    deck.tell(Line("cards").add("deck", program.state().mazzo, 1, kCards).text());
+    Line line("game");  // all in one, so that a reader sees one moment
+    add_state(line, program.state());
+    add_window(line, desktop.window());
+    add_screen(line);
+    game.tell(line.text());
   });
   look.start(15);
   program.run();
