@@ -30,8 +30,8 @@ class Table {
   virtual void stock_empty() = 0;
 
   virtual void card_dealt(int seat, int k, int card) = 0;  ///< k-th card, 1..13, of a fan
-  virtual void card_drawn(int card) = 0;             ///< face at seat 1's next place
-  virtual void card_landed(int seat, int card) = 0;  ///< back beside a computer hand
+  virtual void card_drawn(int card) = 0;                   ///< face at seat 1's next place
+  virtual void card_landed(int seat, int card) = 0;        ///< back beside a computer hand
 
   virtual void dealer_screen() = 0;
   virtual void dealer_deck(int back) = 0;
