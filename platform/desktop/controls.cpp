@@ -160,9 +160,9 @@ void ShapeControl::paintEvent(QPaintEvent*) {
   QPen pen(Qt::white, 1.6 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
   painter.setPen(pen);
   painter.setBrush(Qt::NoBrush);
-  painter.drawPolyline(QPolygonF({middle + QPointF(-3.2, 0.2) * unit,
-                                  middle + QPointF(-0.9, 2.5) * unit,
-                                  middle + QPointF(3.6, -2.5) * unit}));
+  painter.drawPolyline(
+      QPolygonF({middle + QPointF(-3.2, 0.2) * unit, middle + QPointF(-0.9, 2.5) * unit,
+                 middle + QPointF(3.6, -2.5) * unit}));
 }
 
 void ShapeControl::fit(const Area& area, const TableGeometry& geometry) {
