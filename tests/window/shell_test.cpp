@@ -177,7 +177,7 @@ TEST_F(Shell, TheLastHandCanBeDealtAgain) {
   game->kill();
   game->waitForFinished(5000);
 
-  start_quick({.clock = 777, .turns = 200});
+  start_quick({.clock = 777, .turns = 5});
   for (int times = 0; times < 2; ++times) {
     press_screen("Partita");
     press_screen("Ripeti ultima mano");
@@ -213,7 +213,7 @@ TEST_F(Shell, TheLastHandCanBeDealtAgain) {
 
 // Whatever is pressed, typed or chosen, the game goes on and can be left.
 TEST_F(Shell, ARandomWalkUpsetsNothing) {
-  start_quick({.clock = find_clock(is_dealer_found), .turns = 100});
+  start_quick({.clock = find_clock(is_dealer_found), .turns = 10});
   std::mt19937 dice(20240229);
   auto below = [&](int n) { return static_cast<int>(dice() % static_cast<unsigned>(n)); };
   const std::vector<std::string> keys = {"alt+p", "alt+o", "alt+s",  "alt+m",  "alt+r",
