@@ -75,7 +75,7 @@ TEST_F(SurfaceTest, PrintsInheritTheTextStateAndLinesFollow) {
   surface_.set_text_colour(kWhite);
   surface_.print("same line");
   surface_.print("fourth");
-  surface_.set_text_y(70);
+  surface_.set_text_position(0, 70);
   surface_.print("at a place of its own");
   EXPECT_EQ(seen(surface_),
             (Lines{"'at the start' 0,0 MS Sans Serif 7.8 black",
