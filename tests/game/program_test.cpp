@@ -135,14 +135,9 @@ TEST(Replay, MarkedDuringTheDrawItDealsTheDeckOfTheDraw) {
   game.dismiss().press_deck().choose(menu_replay).then([&] { deck = game.s().mazzo; });
   game.until([&] { return !game.is_drawing(); }).until_own_turn().then([&] {
     EXPECT_EQ(game.s().numero_mano, 1);
-    EXPECT_TRUE(std::equal(deck.begin() + 1, deck.begin() + 53, game.s().mazzo.begin() + 1));
+    EXPECT_EQ(game.s().mazzo, deck);
     EXPECT_TRUE(game.window.checked(menu_replay));
-    EXPECT_FALSE(game.window.enabled(menu_replay));
     EXPECT_FALSE(game.window.choose(menu_replay));
-  });
-  game.until_scoreboard().choose(menu_continue).until_own_turn().then([&] {
-    EXPECT_FALSE(game.window.checked(menu_replay));
-    EXPECT_NE(deck, game.s().mazzo);
   });
   game.play();
   EXPECT_TRUE(game.window.script.empty());
