@@ -66,48 +66,48 @@ struct State {
   std::uint8_t compagno = 0;  ///< partner of the computer seat on turn
   bool ha_pescato = false;    ///< the seat on turn has drawn
   std::uint8_t azione = 0;    ///< code posted by the pointer handler, 0 none
-  bool calata_ok = false;     ///< what the judge of melds said
+  bool calata_ok = false;     ///< what the judge of melds said last
   std::array<std::string, kSeats> nomi;  ///< of seat s at s - 1, UTF-8
-  std::array<std::string, 2> squadre;
+  std::array<std::string, 2> squadre;    ///< "name-name" of team t at t - 1
 
   // Selection by the person
   std::int16_t n_selezionate = 0;
-  std::array<std::uint8_t, kHandSlots + 1> slot_selezionati{};
-  std::uint8_t slot_cliccato = 0;
-  float x_click = 0;             ///< logical units
+  std::array<std::uint8_t, kHandSlots + 1> slot_selezionati{};  ///< 1..`n_selezionate`, rising
+  std::uint8_t slot_cliccato = 0;                               ///< 1..`n_mano` of seat 1
+  float x_click = 0;             ///< of the press that posted `azione`, logical units
   std::int16_t pos_attacco = 0;  ///< position of the last card of the meld that is added to
 
   // What computer seats reason with
   BySeat<PresenceString> presenze;
-  PresenceString presenze_salvate;
-  std::array<std::uint8_t, 3> candidate{};  ///< 1 top of the pile, 2 next stock card
-  std::uint8_t scelta_pesca = 0;            ///< candidate that made a meld, 0 none
-  std::array<std::int16_t, kRanks + 1> carte_calata{};
-  int lunghezza_calata = 0;
+  PresenceString presenze_salvate;                      ///< of the seat on turn, as its turn began
+  std::array<std::uint8_t, 3> candidate{};              ///< 1 top of the pile, 2 next stock card
+  std::uint8_t scelta_pesca = 0;                        ///< candidate that made a meld, 0 none
+  std::array<std::int16_t, kRanks + 1> carte_calata{};  ///< the new meld, first-pack codes
+  int lunghezza_calata = 0;                             ///< 3..13, 0 without a meld
 
   // Match
   std::int16_t numero_mano = 0;  ///< 0 only for a replayed first hand
   std::array<std::array<std::int16_t, 3>, kLastRow + 1> punti_mano{};  ///< [hand][team]
   std::array<std::int16_t, 3> punti_totali{};
-  std::array<std::uint8_t, kRanks + 1> punti_carta{};
-  bool continua = false;
-  bool mano_salvata = false;
+  std::array<std::uint8_t, kRanks + 1> punti_carta{};  ///< by rank
+  bool continua = false;                               ///< the scoreboard may go
+  bool mano_salvata = false;                           ///< the settings file held a whole deal
 
   // Draw for dealer
-  BySeat<std::uint8_t> valori_estratti{};
-  std::int16_t indice_estrazione = 0;
-  std::uint8_t carta_scelta = 0;  ///< also the card that is being added to a meld
-  BySeat<float> x_estrazione{};
+  BySeat<std::uint8_t> valori_estratti{};  ///< ranks
+  std::int16_t indice_estrazione = 0;      ///< slot of `mazzo` on top, 1..103
+  std::uint8_t carta_scelta = 0;           ///< also the card that is being added to a meld
+  BySeat<float> x_estrazione{};            ///< where a seat's card lands, logical units
   BySeat<float> y_estrazione{};
 
   // Options and pacing
-  std::uint8_t velocita = 0;  ///< 1..3
+  std::uint8_t velocita = 0;  ///< 1..3, the entry checked at load
   float ritardo_base = 0;     ///< 0.5, 1 or 1.5; greater is quicker
   bool timer_scaduto = false;
-  std::uint8_t brano = 0;
+  std::uint8_t brano = 0;        ///< 0 no music, 1.. a tune, 101 all in sequence
   std::uint8_t fruscio_opz = 0;  ///< 0 silent, 1 sounds on
-  bool click_avvio = false;
-  float scala_carte = 1;
+  bool click_avvio = false;      ///< the opening picture may go
+  float scala_carte = 1;         ///< 0.25..2, size of the cards
 };
 
 /// The action codes of `azione`.

@@ -37,6 +37,8 @@ class Computer {
 
   int first_step();
   int run_step(int step);
+  void try_top_of_pile(int seat);
+  void draw_instead(int seat);
   int discard_if_drawn();
 
   void try_candidate(int seat, int candidate);

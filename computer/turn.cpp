@@ -35,10 +35,8 @@ int Computer::first_step() {
 int Computer::run_step(int step) {
   const int seat = s_.di_turno;
   switch (step) {
-    case 1:  // a copy of the pile's top card joins the hand for a try
-      s_.ha_pescato = false;
-      ++s_.n_mano[seat];
-      s_.mano[seat][s_.n_mano[seat]] = static_cast<std::int16_t>(deck_.top_of_pile());
+    case 1:
+      try_top_of_pile(seat);
       out_.wait.ritardo(0.2F);
       return 2;
     case 2:
@@ -51,10 +49,8 @@ int Computer::run_step(int step) {
       return 4;
     case 4:
       return discard_if_drawn();
-    case 5:  // the copy is dropped
-      --s_.n_mano[seat];
-      pesco_carta(seat, 2);
-      s_.ha_pescato = true;
+    case 5:
+      draw_instead(seat);
       return 6;
     case 6:
       out_.table.ridisegno_dorsi(seat);
@@ -66,6 +62,20 @@ int Computer::run_step(int step) {
       deck_.reshuffle_when_full();
       return kTurnOver;
   }
+}
+
+// A copy of the pile's top card joins the hand; a lay-off that uses it takes the pile.
+void Computer::try_top_of_pile(int seat) {
+  s_.ha_pescato = false;
+  ++s_.n_mano[seat];
+  s_.mano[seat][s_.n_mano[seat]] = static_cast<std::int16_t>(deck_.top_of_pile());
+}
+
+// The copy is dropped, and the turn's draw comes from the stock.
+void Computer::draw_instead(int seat) {
+  --s_.n_mano[seat];
+  pesco_carta(seat, 2);
+  s_.ha_pescato = true;
 }
 
 int Computer::discard_if_drawn() {

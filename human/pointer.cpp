@@ -25,7 +25,7 @@ void Pointer::Form_MouseDown(Button button, float x, float y) {
 void Pointer::press_right(float x, float y) {
   if (!s_.ha_pescato) {
     Surface& surface = window_.surface();
-    surface.set_text_position(kPromptX, 2 * m_.mezza_altezza - 100);
+    surface.set_text_position(kPromptX, prompt_y());
     surface.print("PESCARE");
     return;
   }
@@ -46,11 +46,7 @@ void Pointer::press_left(float x, float y) {
     return;
   }
   if (s_.azione == kDealerDraw) {
-    const float half_card = m_.larghezza_carta / 2;
-    if (between(x, m_.mezza_larghezza - half_card, m_.mezza_larghezza + half_card) &&
-        is_in_table_band(y)) {
-      s_.carta_scelta = static_cast<std::uint8_t>(s_.mazzo[s_.indice_estrazione]);
-    }
+    press_on_dealer_deck(x, y);
     return;
   }
   if (s_.di_turno > 1) return;
@@ -64,10 +60,17 @@ void Pointer::press_left(float x, float y) {
   press_before_draw(x, y);
 }
 
+void Pointer::press_on_dealer_deck(float x, float y) {
+  const float half_card = m_.larghezza_carta / 2;
+  if (between(x, m_.mezza_larghezza - half_card, m_.mezza_larghezza + half_card) &&
+      is_in_table_band(y)) {
+    s_.carta_scelta = static_cast<std::uint8_t>(s_.mazzo[s_.indice_estrazione]);
+  }
+}
+
 void Pointer::press_before_draw(float x, float y) {
   if (is_in_table_band(y)) {
-    window_.surface().filled_box(kPromptX, 2 * m_.mezza_altezza - 100, kPromptX + 100,
-                                 2 * m_.mezza_altezza - 80, kFelt);
+    window_.surface().filled_box(kPromptX, prompt_y(), kPromptX + 100, prompt_y() + 20, kFelt);
     if (between(x, m_.mezza_larghezza - m_.larghezza_carta, m_.mezza_larghezza)) {
       s_.azione = kDrawPile;
       return;
@@ -85,8 +88,8 @@ void Pointer::press_before_draw(float x, float y) {
 void Pointer::press_on_melds(float x, float y) {
   if (s_.azione == kDealerDraw) return;
   s_.x_click = x;
-  if (y > m_.mezza_altezza + m_.altezza_carta + 20) s_.azione = kLayOwnSide;
-  if (between(y, m_.altezza_carta + 50, 2 * m_.altezza_carta + 50)) s_.azione = kLayPartnerSide;
+  if (y > own_band_top()) s_.azione = kLayOwnSide;
+  if (is_in_partner_band(y)) s_.azione = kLayPartnerSide;
 }
 
 void Pointer::Form_MouseMove(float x, float y) {
@@ -95,9 +98,7 @@ void Pointer::Form_MouseMove(float x, float y) {
   const float left = m_.striscia_x();
   const float right = left + 13 * m_.passo_carta() + (26.0F / 36.0F) * m_.larghezza_carta;
   if (!between(x, left, right)) return;
-  const float own_top = m_.mezza_altezza + m_.altezza_carta + 20;
-  if (between(y, own_top, own_top + m_.altezza_carta) ||
-      between(y, m_.altezza_carta + 50, 2 * m_.altezza_carta + 50)) {
+  if (between(y, own_band_top(), own_band_top() + m_.altezza_carta) || is_in_partner_band(y)) {
     window_.set_pointer(PointerShape::up_arrow);
   }
 }
@@ -110,6 +111,10 @@ bool Pointer::is_on_fan(float x, float y) const {
 
 bool Pointer::is_in_table_band(float y) const {
   return between(y, m_.tavolo_y(), m_.mezza_altezza + m_.altezza_carta / 2);
+}
+
+bool Pointer::is_in_partner_band(float y) const {
+  return between(y, m_.altezza_carta + 50, 2 * m_.altezza_carta + 50);
 }
 
 }  // namespace tombrello

@@ -21,10 +21,14 @@ class Pointer {
  private:
   void press_right(float x, float y);
   void press_left(float x, float y);
+  void press_on_dealer_deck(float x, float y);
   void press_before_draw(float x, float y);
   void press_on_melds(float x, float y);
   bool is_on_fan(float x, float y) const;
   bool is_in_table_band(float y) const;
+  bool is_in_partner_band(float y) const;
+  float own_band_top() const { return m_.mezza_altezza + m_.altezza_carta + 20; }
+  float prompt_y() const { return 2 * m_.mezza_altezza - 100; }
 
   State& s_;
   const Metrics& m_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 namespace tombrello {
+
 void HumanTurn::Gioco1() {
   s_.ha_pescato = false;
   do {

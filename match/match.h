@@ -29,13 +29,14 @@ class Match {
   /// Clears the state for a hand, and shuffles unless a replay is marked.
   void Gioco_Imposta();
 
-  /// The parts of `Main`, for those who play hands one by one.
-  void prepare_match();
+  /// The parts of `Main`, in its order, for those who play hands one by one: a match is prepared,
+  /// then hands are started, played turn by turn, ended, and followed by the next.
+  void prepare_match();  ///< the draw for dealer too
   void start_hand();
-  bool play_turn();  ///< answers whether the hand is over
+  bool play_turn();  ///< of `di_turno`; answers whether the hand is over
   void pass_turn();
-  void end_hand();
-  bool is_over() const;
+  void end_hand();       ///< needs a seat without cards
+  bool is_over() const;  ///< a team stands at 1500 or more
   void next_hand();
 
  private:

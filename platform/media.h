@@ -16,6 +16,8 @@ class MediaControl {
   virtual void set_file_name(const std::string& name) = 0;
   /// `play` returns at once; it starts from the beginning, whatever sounded before.
   virtual void command(Command command) = 0;
+  /// How the device is to open and play. One that always plays in the background, from the
+  /// start, ignores these.
   virtual void set_blocking(bool blocking) = 0;
   virtual void set_opening_option(int option) = 0;
   virtual void set_start_option(int option) = 0;

@@ -112,14 +112,10 @@ void Surface::print(const std::string& text) {
   lines_above_.push_back(font_);
 }
 
-void Surface::set_text_y(float y) {
+void Surface::set_text_position(float x, float y) {
+  x_ = x;
   y_ = y;
   lines_above_.clear();
-}
-
-void Surface::set_text_position(float x, float y) {
-  set_text_x(x);
-  set_text_y(y);
 }
 
 Surface::Changes Surface::take_changes() {

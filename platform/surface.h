@@ -99,14 +99,12 @@ class Surface {
   /// Prints and leaves the text position's line where it is.
   void print_staying(const std::string& text);
   void set_text_x(float x) { x_ = x; }
-  void set_text_y(float y);
   void set_text_position(float x, float y);
 
   float font_size() const { return font_.size; }  ///< points
   void set_font_size(float points) { font_.size = points; }
   void set_font_name(const std::string& name) { font_.name = name; }
   void set_text_colour(Colour colour) { text_colour_ = colour; }
-  const Font& font() const { return font_; }
   Colour text_colour() const { return text_colour_; }
 
   const std::vector<Item>& items() const { return items_; }

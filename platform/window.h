@@ -8,7 +8,7 @@
 
 namespace tombrello {
 
-enum class PointerShape { arrow = 0, up_arrow = 10, hourglass = 11 };
+enum class PointerShape { arrow, up_arrow, hourglass };
 enum class Button { left = 1, right = 2, other = 4 };
 enum class Buttons { ok, yes_no };
 enum class Answer { ok, yes, no };
@@ -26,7 +26,7 @@ class WindowEvents {
   /// A button was pressed on the table. x and y are logical units, 0..800 by 0..600; beside the
   /// table they are those of the nearest border.
   virtual void pressed(Button button, float x, float y) = 0;
-  virtual void moved(float x, float y) = 0;
+  virtual void moved(float x, float y) = 0;  ///< as for `pressed`
   virtual void entry_chosen(EntryId entry) = 0;
   virtual void control_clicked(ControlId control) = 0;
   virtual void control_key_pressed(ControlId control) = 0;  ///< while it has the focus
@@ -81,6 +81,7 @@ class Window {
   virtual bool visible(ControlId control) const = 0;
   /// A field also takes the keyboard.
   virtual void bring_to_front(ControlId control) = 0;
+  /// Tells nobody: `field_changed` is for what a person types.
   virtual void set_text(ControlId field, const std::string& text) = 0;
 };
 

@@ -111,6 +111,7 @@ void Program::repaint_after_names() {
   if (screen_ == Screen::score) table_.repaint_score();
 }
 
+// The count of a hand ends with this call, whichever way the entry goes.
 void Program::enable_continue(bool enabled) {
   window_.set_enabled(menu_continue, enabled);
   if (screen_ == Screen::hand) screen_ = Screen::score;

@@ -64,6 +64,8 @@ class PaintedTable : public Table {
   Area strip_area(int seat) const;
   Area strip_card_area(int seat, int k) const;
   void open_card(int seat, int k);
+  float panel_top() const { return m_.mezza_altezza - 130; }
+  void panel_box(float x1, float x2);
   void print_name(int seat);
   void print_name_downward(const std::string& name, float x);
   void print_score_line(const std::string& left, const std::string& right);

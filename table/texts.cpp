@@ -7,13 +7,14 @@ namespace tombrello {
 namespace {
 
 constexpr int kPanelHalfWidth = 199;
+constexpr float kPanelHeight = 240;
 constexpr int kPanelStep = 3;
 constexpr int kPanelStepShown = 6;  // milliseconds; the whole within half a second
 constexpr int kMostLetters = 7;     // of a name
 constexpr float kTitleX = 500;      // right of seat 3's place
 
-// Length in bytes of the UTF-8 character at the start of a text that isn't empty.
-std::size_t first_character(const std::string& text, std::size_t at) {
+// Length in bytes of the UTF-8 character that starts at `at`, inside the text.
+std::size_t character_length(const std::string& text, std::size_t at) {
   std::size_t end = at + 1;
   while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) ++end;
   return end - at;
@@ -55,7 +56,7 @@ void PaintedTable::print_name(int seat) {
 void PaintedTable::print_name_downward(const std::string& name, float x) {
   std::size_t at = 0;
   for (int i = 1; i <= kMostLetters; ++i) {
-    const std::size_t length = at < name.size() ? first_character(name, at) : 0;
+    const std::size_t length = at < name.size() ? character_length(name, at) : 0;
     const float pitch = surface_.font_size() + 10;
     surface_.set_text_position(x, m_.mezza_altezza - 50 + pitch * static_cast<float>(i));
     surface_.print(name.substr(at, length));
@@ -105,31 +106,31 @@ void PaintedTable::reshuffle_ends() {
 }
 
 void PaintedTable::panel_line() {
-  surface_.filled_box(m_.mezza_larghezza, m_.mezza_altezza - 130, m_.mezza_larghezza + 1,
-                      m_.mezza_altezza + 110, kGreen);
+  panel_box(m_.mezza_larghezza, m_.mezza_larghezza + 1);
+}
+
+void PaintedTable::panel_box(float x1, float x2) {
+  surface_.filled_box(x1, panel_top(), x2, panel_top() + kPanelHeight, kGreen);
 }
 
 void PaintedTable::panel_opens() {
   const float x = m_.mezza_larghezza;
-  const float top = m_.mezza_altezza - 130;
-  const float bottom = m_.mezza_altezza + 110;
-  erase(x - 10, top, x + 10, top + 10);
+  erase(x - 10, panel_top(), x + 10, panel_top() + 10);
   for (int k = 1; k <= kPanelHalfWidth; k += kPanelStep) {
-    surface_.filled_box(x, top, x - static_cast<float>(k), bottom, kGreen);
-    surface_.filled_box(x, top, x + static_cast<float>(k), bottom, kGreen);
+    panel_box(x, x - static_cast<float>(k));
+    panel_box(x, x + static_cast<float>(k));
     window_.show_now(kPanelStepShown);
   }
 }
 
 void PaintedTable::repaint_score() {
   repaint_hand();
-  surface_.filled_box(m_.mezza_larghezza - kPanelHalfWidth, m_.mezza_altezza - 130,
-                      m_.mezza_larghezza + kPanelHalfWidth, m_.mezza_altezza + 110, kGreen);
+  panel_box(m_.mezza_larghezza - kPanelHalfWidth, m_.mezza_larghezza + kPanelHalfWidth);
   scoreboard();
 }
 
 void PaintedTable::scoreboard() {
-  surface_.set_text_position(0, m_.mezza_altezza - 125);
+  surface_.set_text_position(0, panel_top() + 5);
   surface_.set_text_colour(kBlue);
   print_score_line("Game    " + s_.squadre[0], s_.squadre[1]);
   surface_.set_text_colour(kWhite);

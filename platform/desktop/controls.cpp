@@ -23,7 +23,7 @@ QColor colour_or(long colour, const QColor& otherwise) {
   return colour < 0 ? otherwise : to_qcolor(static_cast<Colour>(colour));
 }
 
-bool prints(char32_t character) {
+bool may_stand_in_name(char32_t character) {
   if (character == U',' || character == U'"') return false;
   const QChar::Category category = QChar::category(character);
   return QChar::isPrint(character) && category != QChar::Separator_Line &&
@@ -86,7 +86,7 @@ QString allowed_in_field(const QString& text, int most_characters) {
   QString allowed;
   qsizetype room = most_characters;
   for (const char32_t character : text.left(kMostTyped).toUcs4()) {
-    if (!prints(character)) continue;
+    if (!may_stand_in_name(character)) continue;
     room -= length_in_capitals(character);
     if (room < 0) break;
     allowed += QString::fromUcs4(&character, 1);

@@ -64,7 +64,6 @@ void HeadlessWindow::serve_events() {
 
 void HeadlessWindow::end_timer() {
   timer_.running_ = false;
-  timer_.elapsed_ += timer_.period_;
   if (events_ != nullptr) events_->timer_ticked();
 }
 

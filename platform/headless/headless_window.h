@@ -17,14 +17,12 @@ class HeadlessTimer : public Timer {
  public:
   void start(int milliseconds) override;
   bool running() const { return running_; }
-  int period() const { return period_; }          ///< of the last start, milliseconds
-  long long elapsed() const { return elapsed_; }  ///< milliseconds of all the periods that ended
+  int period() const { return period_; }  ///< of the last start, milliseconds
 
  private:
   friend class HeadlessWindow;
   bool running_ = false;
   int period_ = 0;
-  long long elapsed_ = 0;
 };
 
 /// Files that live in memory.
@@ -73,6 +71,7 @@ class HeadlessWindow : public Window {
   const std::string& caption() const { return caption_; }
   bool shown() const { return shown_; }
   int passes() const { return passes_; }
+  /// How long `show_now` held the table, all in all.
   int milliseconds_shown() const { return milliseconds_shown_; }
   /// Top to bottom and left to right, the entries of a parent or of the bar.
   std::vector<EntryId> entries(EntryId parent) const;

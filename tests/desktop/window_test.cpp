@@ -11,13 +11,11 @@
 #include <QTimer>
 #include <QtMath>
 #include <array>
-#include <csignal>
 #include <random>
 
 #include "compare.h"
 #include "platform/desktop/desktop_timer.h"
 #include "platform/desktop/desktop_window.h"
-#include "platform/desktop/stop_signal.h"
 #include "platform/desktop/surface_painter.h"
 #include "sample_pictures.h"
 
@@ -208,17 +206,6 @@ TEST_F(WindowTest, TheOpeningPictureTakesKeysAndGivesThemBack) {
   window_.set_visible(9, false);
   EXPECT_FALSE(window_.visible(9));
   EXPECT_EQ(window_.frame().focusWidget(), &window_.table());
-}
-
-TEST_F(WindowTest, ARequestToEndTakesTheBoxDown) {
-  show(QSize(800, 640));
-  StopSignal signal;
-  signal.listen([&] { window_.stop(); });
-  QTimer::singleShot(40, [] { raise(SIGTERM); });
-  EXPECT_EQ(window_.message_box("Uscire da Tombrello?", Buttons::yes_no), Answer::no);
-  EXPECT_TRUE(window_.closing());
-  EXPECT_EQ(window_.message_box("Ripeti, prego", Buttons::ok), Answer::ok) << "at once";
-  window_.serve_events();
 }
 
 TEST_F(WindowTest, BoxesSpeakItalianAndAnswer) {

@@ -63,6 +63,17 @@ class Game {
     return in_hand() && s().pozzo[0] != 0 && s().di_turno == 1 && !timer.running() && !is_over();
   }
 
+  /// What the game waits for, in words.
+  std::string wait() {
+    if (window.visible(quadro)) return "opening";
+    if (is_drawing()) return "draw";
+    if (is_dealing()) return "deal";
+    if (has(texts(), "Rimescolo")) return "reshuffle";
+    if (is_over()) return "scoreboard";
+    if (is_own_turn()) return "own turn";
+    return s().di_turno == 1 ? "pause" : "computer's turn";
+  }
+
   /// One sensible act of the player, whatever the game waits for.
   void act() {
     if (window.visible(quadro)) {

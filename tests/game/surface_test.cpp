@@ -43,25 +43,19 @@ TEST_F(SurfaceTest, ABoxTakesAwayWhatItCoversWholly) {
                    "box 10,10 80,100 felt"}));
 }
 
-TEST_F(SurfaceTest, APictureOnTheSamePlaceReplacesAndComesToTheTop) {
-  surface_.paint(kAce, 0, 0, 60, 90);
-  surface_.paint(kAce, 20, 0, 60, 90);
-  surface_.paint(kTwo, 0, 0, 60, 90);
-  EXPECT_EQ(seen(surface_), (Lines{"carta1 20,0 80,90", "carta2 0,0 60,90"}));
-}
-
 TEST_F(SurfaceTest, PaintingAHundredTimesStandsOnce) {
   for (int i = 0; i < 100; ++i) {
     surface_.filled_box(0, 0, 158, 30, kPaleYellow);
     surface_.open_box(0, 30, 158, 130, kYellow);
-    surface_.paint(kAce, 300, 300, 60, 90);
+    surface_.paint(i % 2 == 0 ? kAce : kTwo, 300, 300, 60, 90);  // which replaces and comes up
+    surface_.paint(kAce, 320, 300, 60, 90);
     surface_.set_text_colour(i % 2 == 0 ? kWhite : kGreen);
     surface_.set_text_position(370, 464);
     surface_.print("TU");
   }
   EXPECT_EQ(seen(surface_),
-            (Lines{"box 0,0 158,30 pale", "frame 0,30 158,130 yellow", "carta1 300,300 360,390",
-                   "'TU' 370,464 MS Sans Serif 7.8 green"}));
+            (Lines{"box 0,0 158,30 pale", "frame 0,30 158,130 yellow", "carta2 300,300 360,390",
+                   "carta1 320,300 380,390", "'TU' 370,464 MS Sans Serif 7.8 green"}));
 }
 
 TEST_F(SurfaceTest, PrintsInheritTheTextStateAndLinesFollow) {
@@ -75,7 +69,7 @@ TEST_F(SurfaceTest, PrintsInheritTheTextStateAndLinesFollow) {
   surface_.set_text_colour(kWhite);
   surface_.print("same line");
   surface_.print("fourth");
-  surface_.set_text_y(70);
+  surface_.set_text_position(0, 70);
   surface_.print("at a place of its own");
   EXPECT_EQ(seen(surface_),
             (Lines{"'at the start' 0,0 MS Sans Serif 7.8 black",

@@ -27,27 +27,20 @@ TEST(Cards, EveryCodeHasItsSuitRankFaceAndBack) {
   EXPECT_EQ(ValCarta(0), 0);
 }
 
-std::vector<int> deck_of(const Deal& d) {
-  return {d.s.mazzo.begin() + 1, d.s.mazzo.end()};
-}
-
 // A shuffle leaves every card once, and depends on the clock's reading alone.
 TEST(Shuffle, IsAPermutationThatFollowsTheClockAlone) {
   std::set<std::vector<int>> seen;
   for (std::uint64_t clock = 0; clock < 300; ++clock) {
     Deal d;
-    d.clock = CountingClock(clock);
+    Deal same;
+    d.clock = same.clock = CountingClock(clock);
     for (std::uint64_t k = 0; k < clock % 7; ++k) d.rules.random.next();
     d.rules.deck.Mescola();
-    auto deck = deck_of(d);
-    Deal same;
-    same.clock = CountingClock(clock);
     same.rules.deck.Mescola();
-    ASSERT_EQ(deck, deck_of(same)) << clock;
-    seen.insert(deck);
-    std::sort(deck.begin(), deck.end());
-    for (int i = 0; i < kCards; ++i) ASSERT_EQ(deck[static_cast<std::size_t>(i)], i + 1);
-    ASSERT_EQ(d.s.mazzo_tmp, (std::array<std::int16_t, kCards + 1>{}));
+    ASSERT_EQ(d.s.mazzo, same.s.mazzo) << clock;
+    seen.insert({d.s.mazzo.begin(), d.s.mazzo.end()});
+    std::sort(d.s.mazzo.begin(), d.s.mazzo.end());
+    for (int i = 0; i <= kCards; ++i) ASSERT_EQ(d.s.mazzo[i], i);
   }
   EXPECT_EQ(seen.size(), 300U) << "two clocks dealt the same deck";
 }
@@ -58,15 +51,15 @@ TEST(Reshuffle, SharesOutThePileAndLeavesTheDealtSlotsAlone) {
   for (std::uint64_t clock = 0; clock < 200; ++clock) {
     Deal d(clock);
     d.rules.deck.Mescola();
-    const auto before = deck_of(d);
-    for (int i = 0; i < kPack; ++i) d.s.pozzo[i] = d.s.mazzo[1 + i];
+    const auto before = d.s.mazzo;
+    std::copy_n(before.begin() + 1, kPack, d.s.pozzo.begin());
     d.s.n_pozzo = kPack;
     d.s.tallone = kCards;
     d.rules.deck.reshuffle_when_full();
-    const auto after = deck_of(d);
-    ASSERT_TRUE(std::equal(before.begin(), before.begin() + 52, after.begin()));
-    ASSERT_TRUE(std::is_permutation(after.begin() + 52, after.end(), before.begin()));
-    ASSERT_EQ(d.pile_text(), name_of(after[52]));
+    const auto& after = d.s.mazzo;
+    ASSERT_TRUE(std::equal(before.begin(), before.begin() + 53, after.begin()));
+    ASSERT_TRUE(std::is_permutation(after.begin() + 53, after.end(), before.begin() + 1));
+    ASSERT_EQ(d.pile_text(), name_of(after[53]));
     ASSERT_EQ(d.s.tallone, 54);
     turned_up.insert(d.s.pozzo[0]);
   }
@@ -99,11 +92,9 @@ Log told_deal(const State& s, int dealer) {
     if (seat == 1) told.push_back("suona");
     if (k == 13 && (slot < 52 || seat == 4)) told.push_back("ritardo 0.1");
   }
-  for (const auto& line :
-       {std::string("Set_Write"), "pile " + name_of(s.mazzo[53]),
-        std::string(s.mazzo[54] > 52 ? "stock 1" : "stock 0"), std::string("ritardo 0.01")}) {
-    told.push_back(line);
-  }
+  const Log end{"Set_Write", "pile " + name_of(s.mazzo[53]),
+                s.mazzo[54] > 52 ? "stock 1" : "stock 0", "ritardo 0.01"};
+  told.insert(told.end(), end.begin(), end.end());
   return told;
 }
 

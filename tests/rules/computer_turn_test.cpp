@@ -11,41 +11,38 @@ void play(Deal& d, int seat) {
   d.rules.computer.Gioco2();
 }
 
-// A turn's three roads, with every pause and repaint in its place.
-TEST(ComputerTurn, NothingToLayDrawsFromTheStockAndDiscards) {
-  Deal d;
-  d.hand(2, "2h 5d 8c Js");
-  d.stock("9d' 2c'");
-  play(d, 2);
-  EXPECT_EQ(d.log, (Log{"hourglass", "ritardo 0.1", "ritardo 0.2", "ritardo 0.2", "ritardo 0.2",
-                        "landed 2 9d'", "stock 1", "ridisegno_dorsi 2", "suona", "pile 2h",
-                        "ridisegno_dorsi 2", "ritardo 0.2"}));
-  EXPECT_EQ(d.hand_text(2), "5d 8c Js 9d'");
-  EXPECT_EQ(d.s.presenze[2].holds(card("2h")), false);
-}
-
-TEST(ComputerTurn, AMeldIsTheDraw) {
-  Deal d;
-  d.hand(3, "2h 5d 6d 8c");
-  d.pile("Kc 7d'");
-  play(d, 3);
-  EXPECT_EQ(d.log, (Log{"hourglass", "ritardo 0.1", "pile Kc", "ridisegno_dorsi 3", "calo_carte 3",
-                        "ritardo 0.2", "ritardo 0.2", "suona", "pile 2h", "ridisegno_dorsi 3",
-                        "ritardo 0.2"}));
-  EXPECT_EQ(d.table_text(3), "5d 6d 7d");
-  EXPECT_EQ(d.hand_text(3), "8c");
-}
-
-TEST(ComputerTurn, AnAdditionThatUsesThePileIsTheDraw) {
-  Deal d;
-  d.hand(4, "2h 5d 8c Js");
-  d.table(2, "4s 5s 6s");
-  d.pile("Kc 7s");
-  play(d, 4);
-  EXPECT_EQ(d.log, (Log{"hourglass", "ritardo 0.1", "ritardo 0.2", "ritardo 0.2", "pile Kc",
-                        "ridisegno_dorsi 4", "calo_carte 2", "beep", "ritardo 0.2", "suona",
-                        "pile 2h", "ridisegno_dorsi 4", "ritardo 0.2"}));
-  EXPECT_EQ(d.table_text(2), "4s 5s 6s 7s");
+// A turn's three roads, with every pause and repaint in its place: nothing to lay; a meld, which
+// is the draw; an addition that uses the pile's card.
+TEST(ComputerTurn, IsShownStepByStep) {
+  const struct {
+    const char* hand;
+    const char* pile;
+    Log shown;
+  } kRoads[] = {
+      {"2h 5d 8c Js",
+       "Kc",
+       {"ritardo 0.2", "ritardo 0.2", "ritardo 0.2", "landed 3 9d'", "stock 1", "ridisegno_dorsi 3",
+        "suona"}},
+      {"2h 5d 6d 8c",
+       "Kc 7d'",
+       {"pile Kc", "ridisegno_dorsi 3", "calo_carte 3", "ritardo 0.2", "ritardo 0.2", "suona"}},
+      {"2h 5d 8c Js",
+       "Kc 7s",
+       {"ritardo 0.2", "ritardo 0.2", "pile Kc", "ridisegno_dorsi 3", "calo_carte 1", "beep",
+        "ritardo 0.2", "suona"}},
+  };
+  for (const auto& road : kRoads) {
+    Deal d;
+    d.hand(3, road.hand);
+    d.table(1, "4s 5s 6s");
+    d.pile(road.pile);
+    d.stock("9d' 2c'");
+    play(d, 3);
+    Log whole{"hourglass", "ritardo 0.1"};
+    whole.insert(whole.end(), road.shown.begin(), road.shown.end());
+    for (const char* end : {"pile 2h", "ridisegno_dorsi 3", "ritardo 0.2"}) whole.emplace_back(end);
+    EXPECT_EQ(d.log, whole) << road.pile;
+  }
 }
 
 // The edges of a turn, by what is left of it.

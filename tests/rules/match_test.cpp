@@ -85,20 +85,6 @@ TEST(Match, AReplayedHandIsTheKeptOneAndOnlyOnce) {
   EXPECT_LT(in_place, 10) << "the next hand is shuffled";
 }
 
-// Asked for during the draw, when the kept deck is gone: the deck of the draw itself is dealt.
-TEST(Match, AReplayMarkedDuringTheDrawDealsTheDeckOfTheDraw) {
-  Deal d;
-  draw_for_dealer(d);
-  std::array<std::int16_t, kCards + 1> drawn_from{};
-  d.out.actions.push_front([&] {
-    d.out.replay = true;
-    drawn_from = d.s.mazzo;
-  });
-  run(d);
-  EXPECT_EQ(d.s.mazzo, drawn_from);
-  EXPECT_EQ(d.s.numero_mano, 1);
-}
-
 // The dealer moves on seat by seat, whoever went out, and the seat after it opens.
 TEST(Match, TheDealerMovesOn) {
   for (int dealer = 1; dealer <= 4; ++dealer) {
