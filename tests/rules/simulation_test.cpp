@@ -112,10 +112,8 @@ TEST(StateCheck, FindsBrokenStates) {
   }
   // A hand may end without a discard, but only then.
   State no_discard = whole;
-  const int top = no_discard.pozzo[--no_discard.n_pozzo];
-  const int seat = no_discard.n_mano[2] < 13 ? 2 : 3;
-  no_discard.mano[seat][++no_discard.n_mano[seat]] = static_cast<std::int16_t>(top);
-  no_discard.presenze[seat].mark(top);
+  no_discard.calate[2][no_discard.n_calate[2]++] = no_discard.pozzo[--no_discard.n_pozzo];
+  no_discard.calate[2][no_discard.n_calate[2]] = kSentinel;
   EXPECT_NE(check_state(no_discard, {}), "");
   EXPECT_EQ(check_state(no_discard, {.hand_over = true}), "");
 }
