@@ -26,7 +26,9 @@ class Deck {
   /// room for it, and show what pile or stock then hold.
   void take_from_pile(int seat);
   void take_from_stock(int seat);
+  /// A bare card code; shows nothing. The pile holds fewer than 52 cards.
   void add_to_pile(int card);
+  /// The pile holds a card.
   int top_of_pile() const { return s_.pozzo[static_cast<std::size_t>(s_.n_pozzo - 1)]; }
 
  private:

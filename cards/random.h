@@ -15,6 +15,7 @@ class Random {
   /// aren't to be the same in every run.
   explicit Random(Clock& clock) : clock_(clock) { seed_from_clock(); }
 
+  /// Starts the sequence over; each negative number is a sequence of its own.
   void reset(int negative) { engine_.seed(static_cast<std::uint64_t>(std::int64_t{negative})); }
   void seed_from_clock() { engine_.seed(engine_() ^ clock_.reading()); }
   /// Uniform, 0 <= r < 1.

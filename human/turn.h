@@ -17,6 +17,8 @@ class HumanTurn {
             Outside outside)
       : s_(state), m_(metrics), deck_(deck), hands_(hands), melds_(melds), out_(outside) {}
 
+  /// One whole turn. It ends with a discard, or when the last cards are laid down. Pile and stock
+  /// hold a card each.
   void Gioco1();
 
  private:

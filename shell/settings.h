@@ -18,6 +18,7 @@ class Settings {
   void Set_Read();
   /// Replaces the whole file with the current values.
   void Set_Write();
+  /// Replaces the file of players; the settings file keeps its names until it is next written.
   void Registra_Players();
 
  private:

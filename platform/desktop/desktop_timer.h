@@ -7,6 +7,7 @@
 
 namespace tombrello {
 
+/// Qt's timer at a millisecond's precision.
 class DesktopTimer : public Timer {
  public:
   explicit DesktopTimer(WindowEvents& events) {

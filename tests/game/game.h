@@ -24,6 +24,11 @@ class Game {
   }
 
   void play() { program.run(); }
+  /// The same, for a script that nothing may cut short.
+  void play_to_end() {
+    play();
+    EXPECT_TRUE(window.script.empty());
+  }
   Game& then(HeadlessWindow::Action action) {
     window.script.push_back(std::move(action));
     return *this;

@@ -100,8 +100,7 @@ TEST(NamesDialog, ConfirmedDuringTheDrawItLaysTheScreenOutAgain) {
     EXPECT_EQ(game.s().indice_estrazione, 1);
   });
   game.until_own_turn().then([&] { EXPECT_EQ(game.s().squadre[1], "UGO-EST"); });
-  game.play();
-  EXPECT_TRUE(game.window.script.empty());
+  game.play_to_end();
   const std::string& settings = game.archive.files.at("config.zvq");
   EXPECT_NE(settings.find("TU\r\nUGO\r\nNORD"), std::string::npos) << "with the deal";
 }
@@ -123,8 +122,7 @@ TEST(NamesDialog, LeftOpenItClosesWithThePictureOrTheFirstCard) {
       EXPECT_TRUE(has(game.texts(), "'O' 124.25,286"));
       EXPECT_FALSE(has(game.texts(), " 124.25,304")) << "and nothing of the old, longer one";
     });
-    game.play();
-    EXPECT_TRUE(game.window.script.empty());
+    game.play_to_end();
   }
 }
 
@@ -161,8 +159,7 @@ TEST(NamesDialog, ConfirmedInAReplayedHandTheTableIsPaintedAgain) {
     EXPECT_TRUE(has(game.texts(), "'Game    "));
   });
   game.choose(personalize_players).choose(menu_continue).then([&] { expect_closed(game); });
-  game.play();
-  EXPECT_TRUE(game.window.script.empty());
+  game.play_to_end();
 }
 
 TEST(NamesDialog, ConfirmedInADealOrWhileTheOpenHandsAreShownWhatStoodStands) {

@@ -32,8 +32,7 @@ TEST(Opening, APictureOnGreyThatAClickAKeyOrAPressBesideDismisses) {
       EXPECT_TRUE(has(game.texts(), kPrompt));
       EXPECT_EQ(game.pictures().size(), 1U) << "the deck";
     });
-    game.play();
-    EXPECT_TRUE(game.window.script.empty());
+    game.play_to_end();
   }
 }
 
@@ -125,8 +124,7 @@ TEST(Replay, TheMarkLivesForOneHandAndTheNextIsShuffled) {
     EXPECT_EQ(game.s().cartaro, 1);
     EXPECT_NE(dealt(game.s()), first);
   });
-  game.play();
-  EXPECT_TRUE(game.window.script.empty());
+  game.play_to_end();
 }
 
 TEST(Replay, MarkedDuringTheDrawItDealsTheDeckOfTheDraw) {
@@ -139,8 +137,7 @@ TEST(Replay, MarkedDuringTheDrawItDealsTheDeckOfTheDraw) {
     EXPECT_TRUE(game.window.checked(menu_replay));
     EXPECT_FALSE(game.window.choose(menu_replay));
   });
-  game.play();
-  EXPECT_TRUE(game.window.script.empty());
+  game.play_to_end();
 }
 
 TEST(Menus, TheTree) {
@@ -206,8 +203,7 @@ TEST(Menus, WhatIsEnabledWhen) {
     const auto& totals = game.s().punti_totali;
     EXPECT_GE(std::max(totals[1], totals[2]), kWinningTotal);
   });
-  game.play();
-  EXPECT_TRUE(game.window.script.empty());
+  game.play_to_end();
 }
 
 TEST(Menus, ASpeedLastsForTheRunTheRustleIsWrittenAtOnce) {

@@ -105,19 +105,24 @@ TEST(ComputerTurn, EachSeatAddsToItsOwnSideOnly) {
 }
 
 // The last stock card is drawn, the discard fills the pile, and it is shuffled, also when that
-// discard emptied the hand.
-TEST(ComputerTurn, TheLastStockCardBringsTheReshuffle) {
-  for (const char* text : {"2h 6h 10h", ""}) {
-    Deal d;
-    d.stock_at(104);
-    d.hand(3, text);
-    const int before = d.s.n_mano[3];
-    play(d, 3);
-    EXPECT_EQ(only(d.log, {"stock_empty", "reshuffle"}),
-              (Log{"stock_empty", "reshuffle_message", "reshuffle_begins", "reshuffle_ends"}));
-    EXPECT_EQ(d.s.n_mano[3], before);
-    EXPECT_EQ(d.s.n_pozzo, 1);
-    EXPECT_EQ(d.s.tallone, 54);
+// discard emptied the hand; after the person's turn as well.
+TEST(AnyTurn, TheLastStockCardBringsTheReshuffle) {
+  for (const int seat : {1, 3}) {
+    for (const char* text : {"2h 6h 10h", ""}) {
+      Deal d;
+      d.stock_at(104);
+      d.hand(seat, text);
+      const int before = d.s.n_mano[seat];
+      d.s.di_turno = static_cast<std::uint8_t>(seat);
+      d.post(kDrawStock);
+      d.discard(1);
+      EXPECT_EQ(d.rules.match.play_turn(), before == 0);
+      EXPECT_EQ(only(d.log, {"stock_empty", "reshuffle"}),
+                (Log{"stock_empty", "reshuffle_message", "reshuffle_begins", "reshuffle_ends"}));
+      EXPECT_EQ(d.s.n_mano[seat], before);
+      EXPECT_EQ(d.s.n_pozzo, 1);
+      EXPECT_EQ(d.s.tallone, 54);
+    }
   }
 }
 

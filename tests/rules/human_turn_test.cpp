@@ -173,9 +173,8 @@ TEST(PersonsTurn, WhatIsPostedOutsideTheWaitIsLost) {
   EXPECT_EQ(d.hand_text(1), "Kc 2h");
 }
 
-// Pile and stock at their ends: an empty pile until the discard, an empty stock and its
-// reshuffle, also when the discard went out.
-TEST(PersonsTurn, TheEndsOfPileAndStock) {
+// The pile is empty from the draw of its only card to the discard.
+TEST(PersonsTurn, ThePilesOnlyCardMayBeTaken) {
   Deal d;
   d.hand(1, "2h 3d");
   d.post(kDrawPile);
@@ -185,18 +184,6 @@ TEST(PersonsTurn, TheEndsOfPileAndStock) {
   });
   d.discard(1);
   EXPECT_TRUE(play(d));
-  for (const char* text : {"2h 3d", ""}) {
-    Deal last;
-    last.stock_at(104);
-    last.hand(1, text);
-    last.post(kDrawStock);
-    last.discard(1);
-    ASSERT_TRUE(play(last));
-    EXPECT_EQ(only(last.log, {"stock_empty", "reshuffle"}),
-              (Log{"stock_empty", "reshuffle_message", "reshuffle_begins", "reshuffle_ends"}));
-    EXPECT_EQ(last.s.tallone, 54);
-    EXPECT_EQ(last.s.n_pozzo, 1);
-  }
 }
 
 }  // namespace

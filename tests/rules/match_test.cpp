@@ -9,28 +9,6 @@ void run(Deal& d) {
   EXPECT_THROW(d.rules.match.Main(), NothingMoreToPost);
 }
 
-/// A run that starts with the kept deck in order, dealt by seat 1. Seat 2 then gets the hearts
-/// and finds the other Ace of hearts on the pile: it goes out on the first turn.
-struct Kept : Deal {
-  Kept() {
-    for (int i = 1; i <= kCards; ++i) s.mazzo[i] = static_cast<std::int16_t>(i);
-    s.cartaro = 1;
-    s.di_turno = 2;
-    out.replay = true;
-    s.continua = true;  // an old press of "Continua" counts for nothing
-    then([] {});        // the scoreboard stands, nothing happens yet
-  }
-  void keep_on() {
-    then([this] { s.continua = true; });
-  }
-};
-
-void draw_for_dealer(Deal& d) {
-  for (int n = 0; n < 4; ++n) {
-    d.then([&d, n] { d.s.carta_scelta = static_cast<std::uint8_t>(card(n == 0 ? "Kh" : "Ah")); });
-  }
-}
-
 // The order of a run: the match, the draw, the hand, its turns.
 TEST(Match, BeginsWithTheDrawAndDealsAFreshDeck) {
   Deal d;
@@ -38,7 +16,9 @@ TEST(Match, BeginsWithTheDrawAndDealsAFreshDeck) {
   d.s.punti_totali = {0, 400, 300};
   d.s.punti_mano[1] = {0, 400, 300};
   d.s.nomi = {"TU", "OVEST", "NORD", "EST"};
-  draw_for_dealer(d);
+  for (const int ace_or_king : {13, 1, 1, 1}) {
+    d.then([&d, ace_or_king] { d.s.carta_scelta = static_cast<std::uint8_t>(ace_or_king); });
+  }
   std::array<std::int16_t, kCards + 1> drawn_from{};
   d.out.actions.push_front([&] { drawn_from = d.s.mazzo; });
   run(d);
@@ -57,9 +37,16 @@ TEST(Match, BeginsWithTheDrawAndDealsAFreshDeck) {
 }
 
 // A kept hand is dealt again without a draw, and counted in row 0; the hands after it are
-// shuffled, and their dealer moves on.
+// shuffled, and their dealer moves on. Here the deck lies in order: seat 2 gets the hearts, finds
+// the other Ace of hearts on the pile, and goes out on the first turn.
 TEST(Match, AReplayedHandIsTheKeptOneAndOnlyOnce) {
-  Kept d;
+  Deal d;
+  for (int i = 1; i <= kCards; ++i) d.s.mazzo[i] = static_cast<std::int16_t>(i);
+  d.s.cartaro = 1;
+  d.s.di_turno = 2;
+  d.out.replay = true;
+  d.s.continua = true;  // an old press of "Continua" counts for nothing
+  d.then([] {});        // the scoreboard stands, nothing happens yet
   d.then([&] {
     EXPECT_EQ(d.s.calate[2][14], 1) << d.table_text(2);
     EXPECT_EQ(d.s.n_calate[2], 15);
@@ -73,7 +60,7 @@ TEST(Match, AReplayedHandIsTheKeptOneAndOnlyOnce) {
                    "scoreboard", "continue 1"}));
     EXPECT_EQ(d.log.back(), "default_pointer");
   });
-  d.keep_on();
+  d.then([&d] { d.s.continua = true; });
   run(d);
   EXPECT_FALSE(d.out.replay);
   EXPECT_EQ(only(d.log, {"uncheck", "replay"}), (Log{"uncheck_replay", "replay 0"}));
