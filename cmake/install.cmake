@@ -6,5 +6,6 @@ install(DIRECTORY music DESTINATION . FILES_MATCHING PATTERN "*.mid")
 install(FILES LEGGIMI.md docs/pictures/tombrello.png DESTINATION .)
 # The entry finds the program beside itself, or, copied into a menu, where it was installed. It
 # names the icon by its place: after moving the folder, install again or lose the picture.
-install(CODE "configure_file(\"${PROJECT_SOURCE_DIR}/cmake/Tombrello.desktop.in\"
-                             \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Tombrello.desktop\" @ONLY)")
+install(CODE "cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX OUTPUT_VARIABLE home)
+  configure_file(\"${PROJECT_SOURCE_DIR}/cmake/Tombrello.desktop.in\"
+                 \"\$ENV{DESTDIR}\${home}/Tombrello.desktop\" @ONLY)")
