@@ -4,7 +4,8 @@ install(TARGETS tombrello RUNTIME DESTINATION .)
 install(DIRECTORY sounds DESTINATION . FILES_MATCHING PATTERN "*.wav")
 install(DIRECTORY music DESTINATION . FILES_MATCHING PATTERN "*.mid")
 install(FILES LEGGIMI.md docs/pictures/tombrello.png DESTINATION .)
-# The entry names the icon by its place: run the install again after moving the folder, or only
-# the picture in the menu is lost.
-install(CODE "configure_file(\"${PROJECT_SOURCE_DIR}/cmake/Tombrello.desktop.in\"
-                             \"\${CMAKE_INSTALL_PREFIX}/Tombrello.desktop\" @ONLY)")
+# The entry finds the program beside itself, or, copied into a menu, where it was installed. It
+# names the icon by its place: after moving the folder, install again or lose the picture.
+install(CODE "cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX OUTPUT_VARIABLE home)
+  configure_file(\"${PROJECT_SOURCE_DIR}/cmake/Tombrello.desktop.in\"
+                 \"\$ENV{DESTDIR}\${home}/Tombrello.desktop\" @ONLY)")

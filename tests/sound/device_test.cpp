@@ -3,16 +3,12 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <atomic>
-#include <cmath>
 #include <csignal>
-#include <numbers>
 #include <random>
 
 #include "platform/desktop/audio/sdl_audio.h"
-#include "tests/sound/disk_audio.h"
-#include "tools/music/arrange.h"
+#include "tests/sound/listening.h"
 #include "tools/sounds/sounds.h"
 
 namespace tombrello {
@@ -35,18 +31,10 @@ struct Heard {
     disk.put("sounds/carta.wav", sounds::wave_file(sounds::rustle()));
     disk.put("sounds/Notify.wav", sounds::wave_file(sounds::notice()));
     disk.put("sounds/beep.wav", sounds::wave_file(sounds::beep()));
-    disk.put("music/low.mid", tune("a4:2", 120));
-    disk.put("music/high.mid", tune("e5:2", 120));
-    disk.put("music/long.mid", tune("a4:1 | a4:1 | a4:1 | a4:1 | a4:1 | a4:1", 60));
+    disk.put("music/low.mid", short_tune("a4:2 r", 120));
+    disk.put("music/high.mid", short_tune("e5:2 r", 120));
+    disk.put("music/long.mid", short_tune("a4:1 | a4:1 | a4:1 | a4:1 | a4:1 | a4:1", 60));
     audio.set_events(&ends);
-  }
-
-  static std::string tune(const std::string& notes, int tempo) {
-    std::string filled = notes;
-    if (notes.ends_with(":2")) filled += " r:2";
-    return music::midi_file(
-        music::arrange(music::read_score("tempo " + std::to_string(tempo) + "\nsection a\nmelody " +
-                                         filled + "\nplay a melody=flute\n")));
   }
 
   void open(MediaControl& device, const std::string& file) {
@@ -88,43 +76,6 @@ struct Heard {
   std::atomic<int> system_beeps = 0;
   SdlAudio audio{disk.folder(), [this] { woken = true; }, [this] { ++system_beeps; }};
 };
-
-double loudness(const std::vector<double>& samples, double from, double to) {
-  const auto at = [&](double seconds) {
-    return std::min(samples.size(), static_cast<std::size_t>(seconds * DiskAudio::kRate));
-  };
-  double power = 0;
-  for (std::size_t i = at(from); i < at(to); ++i) power += samples[i] * samples[i];
-  return std::sqrt(power / std::max(1.0, (to - from) * DiskAudio::kRate));
-}
-
-/// Where sound begins, in seconds: at first, and after each silence that lasts so long.
-std::vector<double> onsets(const std::vector<double>& samples, double silence = 0.05) {
-  std::vector<double> found;
-  double last = -silence;
-  for (std::size_t i = 0; i < samples.size(); ++i) {
-    const double now = static_cast<double>(i) / DiskAudio::kRate;
-    if (std::abs(samples[i]) < 0.003) continue;
-    if (now - last >= silence) found.push_back(now);
-    last = now;
-  }
-  return found;
-}
-
-/// How much of a pitch there is in a stretch of a quarter of a second.
-double strength(const std::vector<double>& samples, double from, double hertz) {
-  const auto start = static_cast<std::size_t>(from * DiskAudio::kRate);
-  const std::size_t length = DiskAudio::kRate / 4;
-  double real = 0, imaginary = 0;
-  for (std::size_t i = 0; i < length && start + i < samples.size(); ++i) {
-    const double turn = 2 * std::numbers::pi * hertz * static_cast<double>(i) / DiskAudio::kRate;
-    real += samples[start + i] * std::cos(turn);
-    imaginary += samples[start + i] * std::sin(turn);
-  }
-  return std::hypot(real, imaginary) / static_cast<double>(length);
-}
-
-constexpr double kLow = 440, kHigh = 659.26;
 
 TEST(Waves, EachPlayIsOneRustle) {
   Heard heard(6);
@@ -241,7 +192,7 @@ TEST(Tunes, TheEndOfAnOlderPlayMeansNothing) {
 
 TEST(Tunes, FilesThatAreNoneAreSilentAndNeverEnd) {
   Heard heard(6);
-  const std::string whole = Heard::tune("a4:2", 120);
+  const std::string whole = short_tune("a4:2 r", 120);
   heard.disk.put("music/empty.mid", "");
   heard.disk.put("music/broken.mid", whole.substr(0, whole.size() / 2));
   heard.disk.put("music/text.mid", "MThd? No.");
@@ -261,7 +212,7 @@ TEST(Tunes, FilesThatAreNoneAreSilentAndNeverEnd) {
 
 TEST(Tunes, ANoteThatNeverEndsIsEnded) {
   Heard heard(6);
-  std::string stuck = Heard::tune("a4:2", 120);
+  std::string stuck = short_tune("a4:2 r", 120);
   const auto off = stuck.find('\x80', stuck.find("MTrk", 40));
   stuck[off] = '\xb0';  // the end of the note becomes a controller without effect
   stuck[off + 1] = 3;

@@ -16,47 +16,31 @@ struct EffectsTest : testing::Test {
   Effects effects{device, beeper, fruscio_opz};
 };
 
-TEST_F(EffectsTest, OpeningASoundTellsTheDeviceStepByStep) {
-  effects.Apri_suono("Notify");
-  EXPECT_EQ(device.take(),
-            (Log{"blocking", "opening option 0", "close", "file sounds/Notify.wav", "open"}));
-}
-
-TEST_F(EffectsTest, AtLoadTheRustleBesideTheProgramIsOpened) {
+TEST_F(EffectsTest, TheDeviceIsToldStepByStep) {
   effects.prepare();
   EXPECT_EQ(device.take(),
             (Log{"blocking", "opening option 0", "close", "file carta.wav", "open"}));
-}
-
-TEST_F(EffectsTest, PlayingRewindsForTheNextPlay) {
+  effects.Apri_suono("Notify");
+  EXPECT_EQ(device.take(),
+            (Log{"blocking", "opening option 0", "close", "file sounds/Notify.wav", "open"}));
   effects.suona();
   effects.suona();
   EXPECT_EQ(device.take(), (Log{"play", "start option 0", "play", "start option 0"}));
+  effects.close();
+  EXPECT_EQ(device.take(), Log{"close"});
 }
 
-TEST_F(EffectsTest, SwitchedOffItPlaysNothingButStillOpens) {
+TEST_F(EffectsTest, SwitchedOffItPlaysNothingButStillOpensAndBeeps) {
   fruscio_opz = 0;
   effects.suona();
+  effects.beep();
   EXPECT_EQ(device.take(), Log{});
+  EXPECT_EQ(beeper.beeps, 1);
   effects.Apri_suono("carta");
   EXPECT_EQ(device.take().back(), "open");
-  effects.suona();
-  EXPECT_EQ(device.take(), Log{});
   fruscio_opz = 1;
   effects.suona();
   EXPECT_EQ(device.take().front(), "play");
-}
-
-TEST_F(EffectsTest, TheBeepIsHeardWhateverTheOptionSays) {
-  fruscio_opz = 0;
-  effects.beep();
-  EXPECT_EQ(beeper.beeps, 1);
-  EXPECT_EQ(device.take(), Log{});
-}
-
-TEST_F(EffectsTest, LeavingClosesTheDevice) {
-  effects.close();
-  EXPECT_EQ(device.take(), Log{"close"});
 }
 
 }  // namespace

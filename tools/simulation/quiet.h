@@ -41,7 +41,9 @@ class QuietSound : public Sound {
  public:
   void Apri_suono(const std::string&) override {}
   void suona() override {}
-  void beep() override {}
+  void beep() override { ++beeps; }
+
+  int beeps = 0;
 };
 
 class QuietShell : public Shell {

@@ -30,6 +30,7 @@ class Simulation {
   HandResult play_hand(int most_turns, bool checked);
 
   const State& state() const { return state_; }
+  int beeps() const { return sound_.beeps; }  ///< that a player would have heard so far
   /// A number that stands for all that has happened so far.
   std::uint64_t signature() const { return signature_; }
 

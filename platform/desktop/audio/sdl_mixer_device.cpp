@@ -2,6 +2,7 @@
 
 #include <SDL.h>
 #include <SDL_mixer.h>
+#include <alsa/asoundlib.h>
 
 #include <fstream>
 #include <optional>
@@ -37,6 +38,11 @@ bool choose_soundfont() {
   }
   return false;
 }
+
+// Where there is no device, SDL and the library behind it would say so on standard error, in many
+// lines.
+void say_nothing(const char*, int, const char*, int, const char*, ...) {}
+void log_nothing(void*, int, SDL_LogPriority, const char*) {}
 
 std::optional<std::string> read_file(const fs::path& file, std::uintmax_t most) {
   std::error_code error;
@@ -89,6 +95,8 @@ void SdlMixerDevice::release() {
 bool SdlMixerDevice::open() {
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");  // or the program would survive being ended
   SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Tombrello");
+  SDL_LogSetOutputFunction(log_nothing, nullptr);
+  snd_lib_error_set_handler(say_nothing);
   if (!initialised_) initialised_ = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
   if (!initialised_) return false;
   // One format for ever: what was loaded stays fit to be played after a rest.
