@@ -51,8 +51,8 @@ struct Outcome {
 /// The numbers that the quick game is started with.
 struct Quick {
   unsigned long clock = 1;
-  int deal = 40;   ///< the deal's pauses are divided by it
-  int turns = 40;  ///< all pauses after the deal
+  int deal = 25;   ///< thousandths of the deal's pauses
+  int turns = 25;  ///< thousandths of all pauses after the deal
 };
 
 /// A screen of the test's own with a window manager, and the game on it. Presses are real ones,

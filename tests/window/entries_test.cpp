@@ -90,7 +90,7 @@ class Entries : public PlayingSession, public ::testing::WithParamInterface<Mome
         if (moment == Moment::first_card) turn_up(1, 1);
         return;
       case Moment::deal:
-        start_quick({.clock = dealer_is(4), .deal = 2});
+        start_quick({.clock = dealer_is(4), .deal = 500});
         dismiss_opening();
         turn_up(1, 4);
         return wait_until("the first cards",
@@ -101,13 +101,13 @@ class Entries : public PlayingSession, public ::testing::WithParamInterface<Mome
         draw(kStock);
         return select({4, 9});
       case Moment::computer_turn:
-        begin({.clock = dealer_is(1), .turns = 1});
+        begin({.clock = dealer_is(1), .turns = 1000});
         return wait_for("seat", 2);
       case Moment::scoreboard:
-        begin({.clock = clock_of_short_hand(), .turns = 200});
+        begin({.clock = clock_of_short_hand(), .turns = 5});
         return play_hand(false);
       case Moment::match_over:
-        begin({.clock = clock_of_short_match(), .turns = 400});
+        begin({.clock = clock_of_short_match(), .turns = 2});
         for (play_hand(false); view.number("continue") == 1; play_hand(false)) next_hand();
         return;
     }

@@ -1,6 +1,7 @@
 // tombrello-quick FOLDER CLOCK DEAL TURNS: the game in its window, with its files in FOLDER,
-// chance from a clock that counts up from CLOCK, and pauses divided by DEAL until the pile
-// stands and by TURNS from then on. It tells on standard output what a test waits for.
+// chance from a clock that counts up from CLOCK, and pauses of so many thousandths of their
+// length: DEAL until the pile stands, TURNS from then on. It tells on standard output what a test
+// waits for.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -9,7 +10,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTimer>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -26,13 +26,13 @@ namespace {
 
 class QuickTimer : public Timer {
  public:
-  QuickTimer(Timer& timer, std::function<int()> divisor)
-      : timer_(timer), divisor_(std::move(divisor)) {}
-  void start(int milliseconds) override { timer_.start(milliseconds / divisor_()); }
+  QuickTimer(Timer& timer, std::function<int()> thousandths)
+      : timer_(timer), thousandths_(std::move(thousandths)) {}
+  void start(int milliseconds) override { timer_.start(milliseconds * thousandths_() / 1000); }
 
  private:
   Timer& timer_;
-  std::function<int()> divisor_;
+  std::function<int()> thousandths_;
 };
 
 /// Prints a line whenever it differs from the last one of its kind.
@@ -184,7 +184,7 @@ int main(int argc, char** argv) {
   CountingClock clock(std::strtoull(argv[2], nullptr, 10));
   const State* state = nullptr;
   QuickTimer timer(desktop.timer(), [&] {
-    return std::max(1, std::atoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]));
+    return std::atoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]);
   });
   Program program({desktop.window(), timer, archive, clock, desktop.wave(), desktop.sequencer(),
                    desktop.beeper()});

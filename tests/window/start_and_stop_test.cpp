@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "platform/window.h"
 #include "player.h"
 
 namespace tombrello {
@@ -28,7 +29,7 @@ class Stop : public PlayingSession,
         return wait_for("index", 2);
       case Moment::deal:
         start_quick(
-            {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .deal = 2});
+            {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .deal = 500});
         dismiss_opening();
         turn_up(1, 4);
         return wait_until("the first cards", [](const View& v) {
@@ -36,14 +37,15 @@ class Stop : public PlayingSession,
           return cards.size() > 2 && cards[1] != 0;
         });
       case Moment::computer_turn:
-        begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .turns = 1});
-        return wait_for("seat", 2);
+        begin(
+            {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .turns = 10000});
+        return wait_for("pointer", static_cast<int>(PointerShape::hourglass));
       case Moment::own_turn:
-        begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; }), .turns = 1});
+        begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; }), .turns = 1000});
         draw(kStock);
         return select({1, 2});
       case Moment::scoreboard:
-        begin({.clock = clock_of_short_hand(), .turns = 200});
+        begin({.clock = clock_of_short_hand(), .turns = 5});
         return play_hand(false);
     }
   }

@@ -20,7 +20,7 @@ TEST_F(Table, AWholeHandFromTheDrawToTheNextDeal) {
                  fortune = f;
                  return f.dealer == 4;  // seat 1 opens: nothing moves before it does
                }),
-               .turns = 200});
+               .turns = 5});
   dismiss_opening();
   constexpr int kOrder[] = {2, 3, 4, 1};
   for (int card = 1; card <= 4; ++card) {
@@ -148,7 +148,7 @@ TEST_F(Table, MeldsAdditionsAndDiscards) {
 }
 
 TEST_F(Table, ImpatientPressesUpsetNothing) {
-  start_quick({.clock = find_clock(is_dealer_found), .deal = 20, .turns = 10});
+  start_quick({.clock = find_clock(is_dealer_found), .deal = 50, .turns = 100});
   auto storm = [&](int presses, unsigned step) {
     move(400, 300);
     std::vector<std::string> words;
