@@ -83,7 +83,7 @@ void PaintedTable::ridisegno_dorsi(int seat) {
     case 3: {
       const Area fan = {m_.ventaglio_x(), 19,
                         m_.ventaglio_x() + 13 * m_.passo_carta() + m_.larghezza_carta,
-                        m_.altezza_carta + 19};
+                        m_.altezza_carta + 20};  // to the cards' very edge
       erase(fan.left, fan.top, fan.right, fan.bottom);
       paint_strip_cards_in(4, fan);  // the box reaches a little into that strip
       break;

@@ -84,7 +84,7 @@ TEST_F(TableTest, BacksFollowTheSlotsOfTheDeckNotTheCards) {
   EXPECT_EQ(
       seen(window_.surface()),
       (Lines{"box 0,245 114.25,585 felt", "dorsoo1 20,150 114.25,210", "dorsoo0 20,170 114.25,230",
-             "box 250,19 570,113.25 felt", "dorsov1 250,20 310,114.25", "dorsov0 270,20 330,114.25",
+             "box 250,19 570,114.25 felt", "dorsov1 250,20 310,114.25", "dorsov0 270,20 330,114.25",
              "box 685.75,245 780,585 felt", "dorsoo1 685.75,150 780,210",
              "dorsoo0 685.75,170 780,230"}));
   hand(2, {5});
