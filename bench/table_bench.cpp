@@ -47,7 +47,7 @@ class Screen {
     table_.ridisegno_carte();
     QRegion changed;
     for (const Item& item : window_.surface().take_changes().items) {
-      changed += pixels_of(item, geometry_);
+      changed += changed_pixels(item, geometry_);
     }
     paint(changed);
   }

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <algorithm>
 #include <cmath>
 
@@ -34,6 +36,23 @@ qsizetype length_in_capitals(char32_t character) {
   return QString::fromUcs4(&character, 1).toUpper().toUcs4().size();
 }
 
+// The first line, and each line that has an empty one above it and a text below it.
+bool is_heading(const QTextBlock& line) {
+  if (!line.previous().isValid()) return true;
+  return line.previous().text().isEmpty() && !line.next().text().isEmpty();
+}
+
+void set_headings_off(QTextDocument& document) {
+  QTextCharFormat bold;
+  bold.setFontWeight(QFont::Bold);
+  for (QTextBlock line = document.begin(); line.isValid(); line = line.next()) {
+    if (!is_heading(line)) continue;
+    QTextCursor cursor(line);
+    cursor.select(QTextCursor::BlockUnderCursor);
+    cursor.mergeCharFormat(bold);
+  }
+}
+
 }  // namespace
 
 Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_colour,
@@ -53,6 +72,7 @@ Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_
   setFont(control_font(font));
   document()->setDocumentMargin(kPanelMargin);
   setPlainText(QString::fromStdString(text));
+  set_headings_off(*document());
   setCursor(Qt::ArrowCursor);
   viewport()->setCursor(Qt::ArrowCursor);
 }
@@ -133,8 +153,8 @@ void Field::edited(const QString& raw) {
 void Field::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
-  painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.setClipRegion(QRegion(rect()) - QRegion(rect().adjusted(1, 1, -1, -1)));
+  painter.fillRect(rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
 }
 
 ShapeControl::ShapeControl(Colour colour, QWidget& parent)

@@ -18,8 +18,8 @@ class Control {
   virtual void fit(const Area& area, const TableGeometry& geometry) = 0;
 };
 
-/// A framed text. Where it needs more room than it was given, it grows downward to the table's
-/// lower edge, and scrolls beyond that.
+/// A framed text with bold headings. Where it needs more room than it was given, it grows downward
+/// to the table's lower edge, and scrolls beyond that.
 class Panel : public QTextEdit, public Control {
  public:
   Panel(ControlId id, const std::string& text, const Font& font, long text_colour, long back_colour,

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QIcon>
 #include <QPushButton>
 #include <chrono>
@@ -12,6 +13,11 @@
 
 namespace tombrello {
 namespace {
+
+// Wide enough for its own title, and without buttons that it has no use for.
+constexpr int kBoxWidth = 220;
+constexpr auto kBoxFrame = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
 QIcon icon_of(const Drawing& drawing) {
   QIcon icon;
@@ -94,7 +100,7 @@ Answer DesktopWindow::message_box(const std::string& text, Buttons buttons) {
   const Answer otherwise = buttons == Buttons::ok ? Answer::ok : Answer::no;
   if (closing_) return otherwise;
   table_->show_changes();
-  QMessageBox box(&frame_);
+  QMessageBox box(QMessageBox::NoIcon, "", "", QMessageBox::NoButton, &frame_, kBoxFrame);
   box.setWindowTitle("Tombrello");
   box.setTextFormat(Qt::PlainText);
   box.setText(QString::fromStdString(text));
@@ -105,6 +111,9 @@ Answer DesktopWindow::message_box(const std::string& text, Buttons buttons) {
     box.setDefaultButton(yes);
   } else {
     box.addButton("OK", QMessageBox::AcceptRole);
+  }
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->setColumnMinimumWidth(grid->columnCount() - 1, kBoxWidth);
   }
   box_ = &box;
   box.exec();

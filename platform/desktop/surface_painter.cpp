@@ -70,6 +70,8 @@ class Composition {
     const auto& items = surface_.items();
     for (auto item = items.rbegin(); item != items.rend() && !open.isEmpty(); ++item) {
       Layer layer{&*item, pixels_of(*item, geometry_), {}};
+      const auto* box = std::get_if<BoxItem>(&*item);
+      if (box != nullptr && box->filled) erasers_.push_back(layer.place);
       const QRect on_table = layer.place & geometry_.table() & open.boundingRect();
       if (on_table.isEmpty()) continue;
       layer.visible = open & on_table;
@@ -85,7 +87,22 @@ class Composition {
     return layer.visible;
   }
   QRegion opaque_part(const TextItem&, Layer&) { return {}; }
+  // Since pictures of a kind have one size, one may reach a pixel further than its area does. What
+  // a box erases down to the area's edge it erases to the edge of the picture.
+  void erase_what_reaches_further(const PictureItem& item, Layer& layer) const {
+    const QRect area = geometry_.pixels(item.area);
+    if (area.contains(layer.place)) return;
+    for (QRect box : erasers_) {
+      if (!box.intersects(area)) continue;
+      if (box.bottom() >= area.bottom())
+        box.setBottom(std::max(box.bottom(), layer.place.bottom()));
+      if (box.right() >= area.right()) box.setRight(std::max(box.right(), layer.place.right()));
+      layer.visible -= box;
+    }
+  }
+
   QRegion opaque_part(const PictureItem& item, Layer& layer) {
+    erase_what_reaches_further(item, layer);
     const Look look = look_of(item, layer.place.size());
     layer.picture = pictures_.find(look);
     if (layer.picture == nullptr && patience_.hasExpired()) {
@@ -129,6 +146,7 @@ class Composition {
   PictureCache& pictures_;
   QDeadlineTimer patience_;
   std::vector<Layer> layers_;
+  std::vector<QRect> erasers_;  ///< filled boxes, those above first
   QRegion drafts_;
 };
 
@@ -144,6 +162,11 @@ QRect pixels_of(const Item& item, const TableGeometry& geometry) {
     return geometry.picture_pixels(picture->area);
   }
   return text_place(std::get<TextItem>(item), geometry).pixels;
+}
+
+QRect changed_pixels(const Item& item, const TableGeometry& geometry) {
+  const bool may_erase = std::holds_alternative<BoxItem>(item);
+  return pixels_of(item, geometry).adjusted(0, 0, may_erase ? 1 : 0, may_erase ? 1 : 0);
 }
 
 QRegion paint_surface(QPainter& painter, const Surface& surface, const TableGeometry& geometry,

@@ -15,6 +15,8 @@ QColor to_qcolor(Colour colour);
 
 /// Every pixel that an item touches.
 QRect pixels_of(const Item& item, const TableGeometry& geometry);
+/// Every pixel that may look different once the item stands, or is gone.
+QRect changed_pixels(const Item& item, const TableGeometry& geometry);
 
 /// Paints all that stands in the exposed region, which is in the pixels of `geometry`; so are
 /// the painter's units. The pixels don't depend on what was there, nor on how the region was cut.

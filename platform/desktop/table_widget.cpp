@@ -77,7 +77,7 @@ QRegion TableWidget::changed_region() {
   if (changes.everything) return rect();
   QRegion region;
   for (const Item& item : changes.items) {
-    region += geometry_.widget_rect(pixels_of(item, geometry_)).adjusted(-1, -1, 1, 1);
+    region += geometry_.widget_rect(changed_pixels(item, geometry_)).adjusted(-1, -1, 1, 1);
   }
   return region & rect();
 }

@@ -21,7 +21,7 @@ class Screen {
   void show_changes(Surface& surface) {
     const Surface::Changes changes = surface.take_changes();
     QRegion region;
-    for (const Item& item : changes.items) region += pixels_of(item, geometry_);
+    for (const Item& item : changes.items) region += changed_pixels(item, geometry_);
     paint(surface, changes.everything ? QRegion(image_.rect()) : region & image_.rect());
   }
   void paint(const Surface& surface, const QRegion& region) {
@@ -111,6 +111,25 @@ TEST(Painting, BitByBitIsAsAllAtOnce) {
       for (int x = 0; x < size.width(); x += 53) screen.paint(surface, QRect(x, y, 53, 37));
     }
     EXPECT_TRUE(same_pixels(screen.image(), wanted)) << "exposed in pieces " << size.width();
+  }
+}
+
+// At most sizes some card reaches a pixel further than its area.
+TEST(Painting, WhatABoxErasesLeavesNoLineBehind) {
+  for (int width = 760; width < 1000; width += 7) {
+    const QSize size(width, width * 3 / 4);
+    Surface surface;
+    surface.set_background(kFelt);
+    for (const float left : {250.F, 270.F, 290.F}) {
+      surface.paint({PictureSet::carta, 1}, left, 10, 60, 94.25F);
+    }
+    surface.filled_box(280, 10, 360, 104.25F, kFelt);
+    const QImage image = fresh(surface, size);
+    const TableGeometry geometry(size, 1, 96);
+    const QRect erased(geometry.pixel(280, 5), geometry.pixel(370, 115));
+    QImage felt(erased.size(), image.format());
+    felt.fill(qRgb(0, 112, 0));
+    EXPECT_TRUE(same_pixels(image.copy(erased), felt)) << width;
   }
 }
 

@@ -63,6 +63,26 @@ unsigned long clock_of_short_hand() {
   return best;
 }
 
+unsigned long clock_of_short_match() {
+  unsigned long best = 1;
+  int fewest = 1000;
+  for (unsigned long start = 1; start <= 3000; ++start) {
+    Simulation match(ScriptKind::simple, start);
+    int turns = 0;
+    for (bool over = false; !over && turns < fewest;) {
+      const HandResult hand = match.play_hand(fewest - turns, false);
+      turns += hand.turns;
+      const auto& totals = match.state().punti_totali;
+      over = hand.finished && std::max(totals[1], totals[2]) >= kWinningTotal;
+      if (over && turns < fewest) {
+        best = start;
+        fewest = turns;
+      }
+    }
+  }
+  return best;
+}
+
 std::vector<int> find_long_run(const std::vector<int>& hand) {
   std::vector<int> run;
   for (int code = 1; code <= kPack + 1; ++code) {

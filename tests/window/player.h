@@ -24,6 +24,9 @@ unsigned long find_clock(const std::function<bool(const Fortune&)>& pleases);
 /// away again, tried headless.
 unsigned long clock_of_short_hand();
 
+/// The same for a whole match.
+unsigned long clock_of_short_match();
+
 /// Slots of cards of a hand that make a meld: a run, else cards of a rank. None if there is none.
 std::vector<int> find_meld(const std::vector<int>& hand);
 /// Slots of four or more cards in a run that doesn't wrap around, lowest first; or none.

@@ -92,7 +92,16 @@ void add_state(Line& line, const State& s) {
   line.add("fault", between_turns ? check_state(s, {}) : "");
 }
 
-void add_window(Line& line, const Window& w) {
+// What is printed on the table, each text with a bar behind it.
+std::string texts(const Surface& surface) {
+  std::string all;
+  for (const Item& item : surface.items()) {
+    if (const auto* text = std::get_if<TextItem>(&item)) all += text->text + '|';
+  }
+  return all;
+}
+
+void add_window(Line& line, Window& w) {
   line.add("replay", w.enabled(menu_replay)).add("continue", w.enabled(menu_continue));
   line.add("names", w.enabled(personalize_players)).add("marked", w.checked(menu_replay));
   for (int i = 1; i <= 3; ++i) {
@@ -102,6 +111,16 @@ void add_window(Line& line, const Window& w) {
   line.add("rules", w.visible(TxtItaliano)).add("help", w.visible(TxtHelp));
   line.add("info", w.visible(Text4)).add("dialog", w.visible(TxtPlayer_0 + 1));
   line.add("pointer", static_cast<int>(w.pointer()));
+  line.add("texts", texts(w.surface()));
+}
+
+// Checked entries from left to right, each with a blank behind it.
+std::string checks(const QMenuBar& bar) {
+  std::string captions;
+  for (const QAction* action : bar.findChildren<QAction*>(Qt::FindDirectChildrenOnly)) {
+    if (action->isChecked()) captions += action->text().remove('&').toStdString() + ' ';
+  }
+  return captions;
 }
 
 std::string place(const QWidget& widget, QPoint point) {
@@ -130,6 +149,7 @@ void add_screen(Line& line) {
       line.add("bar", frame->centralWidget()->y()).add("minimised", frame->isMinimized());
       line.add("ready", frame->isMaximized() && frame->isActiveWindow());
       add_actions(line, *frame->findChild<QMenuBar*>());
+      line.add("checks", checks(*frame->findChild<QMenuBar*>()));
     } else if (const auto* menu = qobject_cast<const QMenu*>(widget)) {
       add_actions(line, *menu);
     }

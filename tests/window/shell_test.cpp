@@ -173,6 +173,8 @@ TEST_F(Shell, TheLastHandCanBeDealtAgain) {
   begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; })});  // seat 1 opens
   const auto dealt = view.numbers("deck");
   const int dealer = view.number("dealer");
+  wait_until("the file", [&](const View&) { return !file("config.zvq").empty(); });
+  const std::string kept = file("config.zvq");
   const std::string hands = view.text("hand1") + view.text("hand2") + view.text("hand3");
   game->kill();
   game->waitForFinished(5000);
@@ -198,6 +200,7 @@ TEST_F(Shell, TheLastHandCanBeDealtAgain) {
   EXPECT_EQ(view.number("round"), 0);
 
   play_hand(false);
+  EXPECT_EQ(file("config.zvq"), kept) << "the same deck and dealer can be dealt once more";
   ASSERT_EQ(view.number("continue"), 1);
   press_screen("Partita");
   press_screen("Continua");
