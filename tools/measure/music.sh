@@ -12,8 +12,8 @@ exec 3< <(Xvfb -displayfd 1 -screen 0 1024x768x24 2>/dev/null)
 xvfb=$!
 read -r number <&3
 export DISPLAY=:$number SDL_AUDIODRIVER=dummy
-openbox 2>/dev/null &
-trap 'kill %1 $xvfb ${pid:-} 2>/dev/null; rm -rf "$folder"' EXIT
+openbox >/dev/null 2>&1 &
+trap 'kill ${pid:-} %1 2>/dev/null; sleep 0.5; kill $xvfb; rm -rf "$folder"' EXIT
 sleep 1
 "$folder/$(basename "$program")" &
 pid=$!
