@@ -59,7 +59,8 @@ class Sounding : public PlayingSession {
 };
 
 TEST_F(Sounding, EveryCardDrawnAndDealtRustles) {
-  start_sounding({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; }), .deal = 2});
+  start_sounding(
+      {.clock = find_clock([](const Fortune& f) { return f.dealer == 4; }), .deal = 500});
   dismiss_opening();
   turn_up_slowly();
   wait_for("pile", 1);
