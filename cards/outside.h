@@ -46,8 +46,8 @@ class Table {
   virtual void scoreboard() = 0;
 };
 
-/// Time. The only calls of the game that serve events, and the only ones that may unwind it:
-/// when the player leaves, they throw.
+/// Time. The only calls of the game that may unwind it: when the player leaves, they throw. They
+/// serve events, and so does `Shell::message` as long as its box stands.
 class Wait {
  public:
   virtual ~Wait() = default;

@@ -33,6 +33,7 @@ void Computer::decido_calata(int seat) {
   } else {
     s_.presenze[seat] = s_.presenze_salvate;
     s_.scelta_pesca = 0;
+    s_.lunghezza_calata = 0;
   }
 }
 

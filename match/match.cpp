@@ -81,6 +81,7 @@ void Match::wait_for_continue() {
 
 // A replayed hand is the only one of its run that isn't shuffled.
 void Match::next_hand() {
+  out_.shell.deal_begins();
   if (out_.shell.replay_checked()) {
     out_.shell.uncheck_replay();
     out_.shell.enable_replay(false);

@@ -18,8 +18,9 @@ using EntryId = int;
 using ControlId = int;
 inline constexpr EntryId kMenuBar = 0;
 
-/// What the window tells the program, always from inside `Window::serve_events`, nested in
-/// whatever wait the game is in. Handlers post and return; they never throw and never wait.
+/// What the window tells the program, always from inside `Window::serve_events`
+/// or `Window::message_box`, nested in whatever wait the game is in. Handlers post and return;
+/// they never throw, and wait for nothing but the answer to a box of theirs.
 class WindowEvents {
  public:
   virtual ~WindowEvents() = default;
@@ -48,7 +49,8 @@ class Window {
 
   /// Paints what changed, sleeps until something happens, and runs its handlers.
   virtual void serve_events() = 0;
-  /// Paints what stands at once, serving no events, and holds it for so long.
+  /// Paints what stands at once, serving no events, and returns so long after the call, or later
+  /// if painting took longer.
   virtual void show_now(int milliseconds) = 0;
   /// The frame was closed, or the process was asked to end. Stays true.
   virtual bool closing() const = 0;

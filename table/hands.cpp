@@ -65,7 +65,6 @@ void PaintedTable::ridisegno_carte() {
   Posiziona_Players();
   for (int k = 1; k <= s_.n_mano[1]; ++k) {
     const int entry = s_.mano[1][k];
-    if (entry == 0) break;  // not dealt yet
     const bool selected = entry > kSelected;
     const float x_disegno = m_.ventaglio_x() + steps(k, m_.passo_carta());
     const float y_disegno = selected ? m_.riga_alzata() : m_.riga_mano();
@@ -182,18 +181,31 @@ void PaintedTable::dealer_card(int seat, int card) {
 
 void PaintedTable::repaint_hand() {
   clear();
+  const bool dealing = s_.pozzo[0] == 0;
+  if (dealing) {
+    repaint_deal();
+    return;
+  }
   for (int seat = 2; seat <= kSeats; ++seat) {
-    for (int k = 1; k <= s_.n_mano[seat] && s_.mano[seat][k] != 0; ++k) {
-      paint_back(seat, k, back_number(s_.mazzo[k]));
-    }
+    for (int k = 1; k <= s_.n_mano[seat]; ++k) paint_back(seat, k, back_number(s_.mazzo[k]));
   }
   for (int seat = 1; seat <= kSeats; ++seat) paint_strip(seat);
-  const bool dealing = s_.pozzo[0] == 0;
-  if (!dealing && s_.n_pozzo > 0) pile_shows(s_.pozzo[static_cast<std::size_t>(s_.n_pozzo - 1)]);
-  if (!is_last_card_taken(s_)) stock_shows(dealing ? 0 : back_number(s_.mazzo[s_.tallone]));
+  if (s_.n_pozzo > 0) pile_shows(s_.pozzo[static_cast<std::size_t>(s_.n_pozzo - 1)]);
+  if (!is_last_card_taken(s_)) stock_shows(back_number(s_.mazzo[s_.tallone]));
   ridisegno_carte();
-  const bool hand_over = !dealing && s_.n_mano[s_.di_turno] == 0;
-  if (hand_over) scopro_carte();
+  if (s_.n_mano[s_.di_turno] == 0) scopro_carte();
+}
+
+void PaintedTable::repaint_deal() {
+  int dealt = 0;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    for (int k = 1; k <= kHandCards && s_.mano[seat][k] != 0; ++k) {
+      card_dealt(seat, k, s_.mano[seat][k]);
+      ++dealt;
+    }
+  }
+  stock_shows(back_number(s_.mazzo[dealt + 1]));
+  Posiziona_Players();
 }
 
 }  // namespace tombrello

@@ -54,6 +54,7 @@ class PaintedTable : public Table {
   void repaint_score();
 
  private:
+  void repaint_deal();
   void erase(float x1, float y1, float x2, float y2);
   void paint_upright(Picture picture, float x, float y);
   void paint_lying(Picture picture, float x, float y);

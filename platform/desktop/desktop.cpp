@@ -5,8 +5,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "table/pictures/pictures.h"
-
 namespace tombrello {
 namespace {
 
@@ -44,10 +42,10 @@ Desktop::Application::Application(int& argc, char** argv) : QApplication(argc, a
   std::setlocale(LC_NUMERIC, "C");
 }
 
-Desktop::Desktop(int& argc, char** argv)
+Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon)
     : messages_(watch_start()),
       application_(argc, argv),
-      window_(draw_picture, draw_icon()),
+      window_(std::move(pictures), icon),
       timer_(window_.events()),
       archive_(QCoreApplication::applicationDirPath(), user_folder()),
       audio_(

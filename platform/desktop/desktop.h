@@ -15,7 +15,7 @@ namespace tombrello {
 /// made before any thread is started:
 ///
 ///     int main(int argc, char** argv) {
-///       Desktop desktop(argc, argv);
+///       Desktop desktop(argc, argv, draw_picture, draw_icon());
 ///       Program program({desktop.window(), desktop.timer(), ...});
 ///       desktop.set_media_events(&program);
 ///       program.run();
@@ -25,7 +25,8 @@ namespace tombrello {
 /// ends the process with status 1.
 class Desktop {
  public:
-  Desktop(int& argc, char** argv);
+  /// `pictures` answers the vectors of any picture; `icon` is the program's.
+  Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon);
 
   Window& window() { return window_; }
   Timer& timer() { return timer_; }

@@ -76,8 +76,9 @@ void DesktopWindow::serve_events() {
 
 void DesktopWindow::show_now(int milliseconds) {
   if (closing_) return;
+  const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
   table_->show_changes_now();
-  std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+  std::this_thread::sleep_until(until);
 }
 
 void DesktopWindow::close() {

@@ -19,6 +19,7 @@
 #include "platform/desktop/disk_archive.h"
 #include "shell/ids.h"
 #include "shell/program.h"
+#include "table/pictures/pictures.h"
 #include "tools/simulation/quiet.h"
 
 namespace tombrello {
@@ -177,7 +178,7 @@ extern "C" const char* __lsan_default_suppressions() {
 
 int main(int argc, char** argv) {
   using namespace tombrello;
-  Desktop desktop(argc, argv);
+  Desktop desktop(argc, argv, draw_picture, draw_icon());
   if (argc != 5) return 2;
   const QString folder = argv[1];
   DiskArchive archive(folder, folder + "/user");
