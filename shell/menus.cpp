@@ -49,6 +49,7 @@ void Program::entry_chosen(EntryId entry) {
     case menu_continue:
       return menu_continue_Click();
     case personalize_players:
+      panels_.hide_all();  // they lie over the dialog's place
       return names_.personalize_players_Click();
     case istruzioni:
       return panels_.istruzioni_Click();

@@ -56,8 +56,8 @@ inline constexpr const char* kRulesText =
     "• Le carte dal 2 al 5 valgono 5 punti.\n"
     "• Le carte dal 6 al Re valgono 10 punti.\n"
     "• L'Asso vale 15 punti.\n"
-    "• Un Poker vale 40, 80 o 120 punti, secondo le carte.\n"
-    "• Un Tombrello vale il doppio delle sue carte.\n"
+    "• Un Poker vale 40, 80 o 120 punti, secondo il suo valore.\n"
+    "• Un Tombrello vale il doppio dei punti delle sue carte.\n"
     "• Un Tombrellone vale 600 punti.";
 
 inline constexpr const char* kInfoText =

@@ -12,7 +12,7 @@ fi
 
 missing=()
 for package in "${packages[@]}"; do
-  dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
+  dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
     missing+=("$package")
 done
 [ ${#missing[@]} -eq 0 ] && exit 0
@@ -20,12 +20,16 @@ done
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
   command -v sudo >/dev/null || {
-    echo "Missing packages: ${missing[*]}. Install them as root, or install sudo." >&2
+    echo "Missing packages; as root: apt-get install ${missing[*]}" >&2
     exit 1
   }
   as_root=(sudo)
 fi
 echo "Installing with apt: ${missing[*]}"
-"${as_root[@]}" apt-get -q update >/dev/null
+"${as_root[@]}" apt-get -q update >/dev/null ||
+  echo "The lists of packages could not all be renewed; going on with what there is." >&2
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-  apt-get -q install -y --no-install-recommends "${missing[@]}" >/dev/null </dev/null
+  apt-get -q install -y --no-install-recommends "${missing[@]}" >/dev/null </dev/null || {
+  echo "Could not install; as root: apt-get install ${missing[*]}" >&2
+  exit 1
+}

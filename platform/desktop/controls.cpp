@@ -140,12 +140,15 @@ void Field::set_text(const std::string& text) {
   setText(allowed_in_field(QString::fromStdString(text), most_characters_));
 }
 
+// What is typed into a full field is what doesn't fit, wherever it was typed.
 void Field::edited(const QString& raw) {
-  const QString allowed = allowed_in_field(raw, most_characters_);
+  const QString behind = allowed_in_field(raw.mid(cursorPosition()), most_characters_);
+  const int room = most_characters_ - static_cast<int>(behind.toUpper().toUcs4().size());
+  const QString before = allowed_in_field(raw.left(cursorPosition()), room);
+  const QString allowed = before + behind;
   if (allowed != raw) {
-    const auto behind = allowed_in_field(raw.left(cursorPosition()), most_characters_).size();
     setText(allowed);
-    setCursorPosition(static_cast<int>(behind));
+    setCursorPosition(static_cast<int>(before.size()));
   }
   events_.field_changed(id_, allowed.toStdString());
 }

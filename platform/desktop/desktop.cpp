@@ -9,8 +9,10 @@ namespace tombrello {
 namespace {
 
 [[noreturn]] void end_without_screen() {
-  std::fputs("tombrello: no screen can be reached; DISPLAY or WAYLAND_DISPLAY must name one\n",
-             stderr);
+  std::fputs(
+      "tombrello: no screen can be reached; DISPLAY must name one, or WAYLAND_DISPLAY with the "
+      "package qt6-wayland\n",
+      stderr);
   std::_Exit(1);
 }
 

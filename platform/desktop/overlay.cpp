@@ -45,13 +45,23 @@ void Overlay::place(ControlId control, const Area& area) {
   }
 }
 
-// The keyboard doesn't wander on to the next field: it returns to the table.
+// The keyboard doesn't wander on to the next field: it returns to the opening picture, if that
+// shows, or to the table.
 void Overlay::set_visible(ControlId control, bool visible) {
   Placed* placed = find(control);
   if (placed == nullptr) return;
   QWidget& widget = placed->control->widget();
-  if (!visible && widget.hasFocus()) table_.setFocus();
+  if (!visible && widget.hasFocus()) keyboard_rest(&widget).setFocus();
   widget.setVisible(visible);
+}
+
+QWidget& Overlay::keyboard_rest(const QWidget* leaving) {
+  for (auto& [id, placed] : controls_) {
+    QWidget& widget = placed.control->widget();
+    const bool picture = dynamic_cast<PictureControl*>(placed.control.get()) != nullptr;
+    if (picture && &widget != leaving && widget.isVisible()) return widget;
+  }
+  return table_;
 }
 
 bool Overlay::visible(ControlId control) const {

@@ -35,6 +35,7 @@ class Overlay {
 
   void add(ControlId id, std::unique_ptr<Control> control);
   Placed* find(ControlId id);
+  QWidget& keyboard_rest(const QWidget* leaving);
 
   TableWidget& table_;
   WindowEvents& events_;

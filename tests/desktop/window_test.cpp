@@ -163,6 +163,10 @@ TEST_F(WindowTest, AFieldTakesWhatANameMayHold) {
   field.paste();
   EXPECT_EQ(events_.field, "xxxxxxx");
   EXPECT_EQ(field.text(), "xxxxxxx");
+  field.setCursorPosition(3);
+  key(field, 0, "y");
+  EXPECT_EQ(field.text(), "xxxxxxx") << "an eighth letter in the middle pushes none out";
+  EXPECT_EQ(field.cursorPosition(), 3);
   key(field, Qt::Key_Return, "\r");
   EXPECT_EQ(events_.confirmed, 1);
   EXPECT_LE(QFontMetrics(field.font()).height(), field.height());

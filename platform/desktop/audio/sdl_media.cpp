@@ -26,20 +26,28 @@ Clock::time_point latest_end(double seconds) {
 /// The waves that were asked for, loaded once each.
 class Waves {
  public:
-  explicit Waves(const std::filesystem::path& folder) : folder_(folder) {}
+  Waves(SdlMixerDevice& device, const std::filesystem::path& folder)
+      : device_(device), folder_(folder) {}
+  ~Waves() {
+    const auto still = device_.hold_still();
+    waves_.clear();
+  }
+  Waves(const Waves&) = delete;
+  Waves& operator=(const Waves&) = delete;
 
-  Mix_Chunk* get(SdlMixerDevice& device, const std::string& file) {
+  // Both rely on a lease.
+  Mix_Chunk* get(const std::string& file) {
     const auto [place, fresh] = waves_.try_emplace(file);
-    if (fresh) place->second = device.load_wave(folder_ / file);
+    if (fresh) place->second = device_.load_wave(folder_ / file);
     return place->second.get();
   }
-
-  void serve(SdlMixerDevice& device, const SdlWave::Job& job) {
-    Mix_Chunk* const wave = get(device, job.file);
-    if (wave != nullptr && job.play) device.play(*wave);
+  void serve(const SdlWave::Job& job) {
+    Mix_Chunk* const wave = get(job.file);
+    if (wave != nullptr && job.play) device_.play(*wave);
   }
 
  private:
+  SdlMixerDevice& device_;
   const std::filesystem::path& folder_;
   std::map<std::string, Chunk> waves_;
 };
@@ -136,10 +144,10 @@ void SdlWave::post(Job job) {
 }
 
 void SdlWave::serve(Box& box, SdlMixerDevice& device, const std::filesystem::path& folder) {
-  Waves waves(folder);
   auto lease = device.lease();
   if (lease == nullptr) return;
-  const bool beeps = waves.get(device, kBeep) != nullptr;
+  Waves waves(device, folder);
+  const bool beeps = waves.get(kBeep) != nullptr;
   std::unique_lock lock(box.mutex);
   box.beeps = beeps;
   const auto called = [&] { return box.leaving || !box.jobs.empty(); };
@@ -154,9 +162,11 @@ void SdlWave::serve(Box& box, SdlMixerDevice& device, const std::filesystem::pat
     const auto jobs = std::exchange(box.jobs, {});
     lock.unlock();
     if (lease == nullptr) lease = device.lease();
-    if (lease == nullptr) return;
-    for (const Job& job : jobs) waves.serve(device, job);
+    if (lease != nullptr) {
+      for (const Job& job : jobs) waves.serve(job);
+    }
     lock.lock();
+    box.beeps = beeps && lease != nullptr;
   }
 }
 

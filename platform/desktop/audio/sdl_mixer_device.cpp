@@ -77,8 +77,13 @@ SdlMixerDevice::~SdlMixerDevice() {
 
 SdlMixerDevice::Lease SdlMixerDevice::lease() {
   const std::lock_guard lock(mutex_);
-  if (leases_ == 0 && !failed_) failed_ = !open();
   if (failed_) return nullptr;
+  if (leases_ == 0 && !open()) {
+    // A device that stood open once may come back: a server that starts anew, a plug put in.
+    failed_ = !stood_open_;
+    return nullptr;
+  }
+  stood_open_ = true;
   ++leases_;
   return Lease(this);
 }

@@ -35,8 +35,13 @@ class SdlMixerDevice {
   SdlMixerDevice& operator=(const SdlMixerDevice&) = delete;
   ~SdlMixerDevice();
 
-  /// Null where there is no audio, which is found out once.
+  /// Null where there is no audio, which is found out once, or while a device that stood open
+  /// can't be had.
   Lease lease();
+
+  /// Nobody opens or closes the device as long as this is held: waves may be freed without a
+  /// lease then.
+  std::unique_lock<std::mutex> hold_still() { return std::unique_lock(mutex_); }
 
   /// For a thread that has called the device, at its end: what is kept for it is given back.
   static void leave_thread();
@@ -62,6 +67,7 @@ class SdlMixerDevice {
   std::mutex mutex_;
   int leases_ = 0;
   bool initialised_ = false;
+  bool stood_open_ = false;
   bool failed_ = false;
   bool has_font_ = false;
 };
