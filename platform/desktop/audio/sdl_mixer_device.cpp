@@ -94,7 +94,9 @@ void SdlMixerDevice::leave_thread() {
 
 void SdlMixerDevice::release() {
   const std::lock_guard lock(mutex_);
-  if (--leases_ == 0) Mix_CloseAudio();
+  if (--leases_ > 0) return;
+  Mix_CloseAudio();
+  SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
 bool SdlMixerDevice::open() {
@@ -102,10 +104,13 @@ bool SdlMixerDevice::open() {
   SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Tombrello");
   SDL_LogSetOutputFunction(log_nothing, nullptr);
   snd_lib_error_set_handler(say_nothing);
-  if (!initialised_) initialised_ = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
-  if (!initialised_) return false;
+  // Not kept through a rest or without a device: it may look out for devices ten times a second.
+  if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
   // One format for ever: what was loaded stays fit to be played after a rest.
-  if (Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, 2, kFrames, nullptr, 0) != 0) return false;
+  if (Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, 2, kFrames, nullptr, 0) != 0) {
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    return false;
+  }
   Mix_AllocateChannels(kVoices);
   Mix_VolumeMusic(kTuneVolume);
   has_font_ = choose_soundfont();

@@ -66,7 +66,6 @@ class SdlMixerDevice {
 
   std::mutex mutex_;
   int leases_ = 0;
-  bool initialised_ = false;
   bool stood_open_ = false;
   bool failed_ = false;
   bool has_font_ = false;
