@@ -2,10 +2,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include "platform/desktop/rasteriser.h"
-#include "table/pictures/pictures.h"
+#include "pictures/pictures.h"
+#include "qt/rasteriser.h"
 
 namespace tombrello {
+using namespace art;
+using namespace qt;
 namespace {
 
 // All faces and backs, upright and lying, at the size of a card on a table of 4K.

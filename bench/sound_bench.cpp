@@ -8,9 +8,10 @@
 #include <cstdlib>
 #include <thread>
 
-#include "platform/desktop/audio/sdl_audio.h"
+#include "qt/audio/sdl_audio.h"
 
 namespace tombrello {
+using namespace qt;
 namespace {
 
 using Command = MediaControl::Command;
@@ -19,7 +20,7 @@ using Seconds = std::chrono::duration<double>;
 void ChooseATune(benchmark::State& state) {
   setenv("SDL_AUDIODRIVER", "dummy", 1);
   SdlAudio audio(
-      TOMBRELLO_ROOT, [] {}, [] {});
+      TOMBRELLO_ROOT "/assets", [] {}, [] {});
   audio.start();
   double most = 0;
   int count = 0;

@@ -6,13 +6,15 @@
 #include <QImage>
 #include <QPainter>
 
-#include "platform/desktop/surface_painter.h"
-#include "platform/headless/headless_window.h"
+#include "headless/headless_window.h"
+#include "pictures/pictures.h"
+#include "qt/surface_painter.h"
 #include "table/painted_table.h"
-#include "table/pictures/pictures.h"
 #include "tools/simulation/simulation.h"
 
 namespace tombrello {
+using namespace art;
+using namespace qt;
 namespace {
 
 // A hand that has come some way, with a full fan for seat 1.

@@ -1,4 +1,4 @@
-#include "platform/headless/headless_window.h"
+#include "headless/headless_window.h"
 
 #include <algorithm>
 #include <utility>

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/archive.h"
-#include "platform/timer.h"
-#include "platform/window.h"
+#include "seam/archive.h"
+#include "seam/timer.h"
+#include "seam/window.h"
 
 namespace tombrello {
 

@@ -4,8 +4,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/beeper.h"
-#include "platform/media.h"
+#include "seam/beeper.h"
+#include "seam/media.h"
 
 namespace tombrello {
 

@@ -3,9 +3,9 @@
 #include <memory>
 #include <string>
 
+#include "headless/headless_window.h"
+#include "headless/silent_media.h"
 #include "match/state_check.h"
-#include "platform/headless/headless_window.h"
-#include "platform/headless/silent_media.h"
 #include "shell/program.h"
 #include "tests/game/seen.h"
 #include "tools/simulation/quiet.h"

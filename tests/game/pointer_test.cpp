@@ -1,9 +1,9 @@
-#include "human/pointer.h"
+#include "shell/pointer.h"
 
 #include <cmath>
 #include <functional>
 
-#include "platform/headless/headless_window.h"
+#include "headless/headless_window.h"
 #include "tests/game/seen.h"
 
 namespace tombrello {

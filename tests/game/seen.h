@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/surface.h"
+#include "seam/surface.h"
 
 namespace tombrello {
 

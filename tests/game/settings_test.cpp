@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "platform/headless/headless_window.h"
+#include "headless/headless_window.h"
 #include "shell/pacing.h"
 #include "shell/player_name.h"
 

@@ -1,4 +1,4 @@
-#include "platform/surface.h"
+#include "seam/surface.h"
 
 #include "tests/game/seen.h"
 

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/headless/headless_window.h"
+#include "headless/headless_window.h"
 #include "table/painted_table.h"
 #include "tests/game/seen.h"
 

@@ -1,6 +1,6 @@
 // What can go wrong with the pictures without anyone noticing at once.
 
-#include "table/pictures/pictures.h"
+#include "pictures/pictures.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,11 @@
 #include <tuple>
 #include <vector>
 
-#include "platform/desktop/rasteriser.h"
+#include "qt/rasteriser.h"
 
 namespace tombrello {
+using namespace art;
+using namespace qt;
 namespace {
 
 constexpr int kFaces = 52;

@@ -7,11 +7,12 @@
 #include <csignal>
 #include <random>
 
-#include "platform/desktop/audio/sdl_audio.h"
+#include "qt/audio/sdl_audio.h"
 #include "tests/sound/listening.h"
 #include "tools/sounds/sounds.h"
 
 namespace tombrello {
+using namespace qt;
 namespace {
 
 using Command = MediaControl::Command;

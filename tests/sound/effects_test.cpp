@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/headless/silent_media.h"
+#include "headless/silent_media.h"
 
 namespace tombrello {
 namespace {

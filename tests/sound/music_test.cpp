@@ -4,8 +4,8 @@
 
 #include <random>
 
-#include "platform/headless/headless_window.h"
-#include "platform/headless/silent_media.h"
+#include "headless/headless_window.h"
+#include "headless/silent_media.h"
 
 namespace tombrello {
 namespace {

@@ -8,11 +8,12 @@
 #include <random>
 #include <set>
 
-#include "platform/desktop/audio/midi_reader.h"
+#include "qt/audio/midi_reader.h"
 #include "tools/music/arrange.h"
 #include "tools/sounds/sounds.h"
 
 namespace tombrello {
+using namespace qt;
 namespace {
 
 namespace fs = std::filesystem;
@@ -81,7 +82,7 @@ TEST_P(TuneTest, SuitsACardTable) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Music, TuneTest, testing::ValuesIn(files_in(kRoot / "music")),
+INSTANTIATE_TEST_SUITE_P(Music, TuneTest, testing::ValuesIn(files_in(kRoot / "assets/music")),
                          [](const auto& tune) {
                            std::string name = tune.param.stem().string();
                            std::erase(name, ' ');
@@ -92,16 +93,17 @@ TEST(Tunes, EachScoreHasItsTuneAndNothingElseLiesThere) {
   std::vector<std::string> scores, tunes;
   for (const fs::path& file : files_in(kRoot / "tools/music/scores"))
     scores.push_back(file.stem().string() + ".mid");
-  for (const fs::path& file : files_in(kRoot / "music")) tunes.push_back(file.filename().string());
+  for (const fs::path& file : files_in(kRoot / "assets/music"))
+    tunes.push_back(file.filename().string());
   std::sort(scores.begin(), scores.end());
   EXPECT_EQ(scores, tunes);
   EXPECT_GE(tunes.size(), 6U);
 }
 
 TEST(Sounds, AreWhatTheToolMakes) {
-  EXPECT_TRUE(sounds::wave_file(sounds::rustle()) == bytes_of(kRoot / "sounds/carta.wav"));
-  EXPECT_TRUE(sounds::wave_file(sounds::notice()) == bytes_of(kRoot / "sounds/Notify.wav"));
-  EXPECT_TRUE(sounds::wave_file(sounds::beep()) == bytes_of(kRoot / "sounds/beep.wav"));
+  EXPECT_TRUE(sounds::wave_file(sounds::rustle()) == bytes_of(kRoot / "assets/sounds/carta.wav"));
+  EXPECT_TRUE(sounds::wave_file(sounds::notice()) == bytes_of(kRoot / "assets/sounds/Notify.wav"));
+  EXPECT_TRUE(sounds::wave_file(sounds::beep()) == bytes_of(kRoot / "assets/sounds/beep.wav"));
 }
 
 TEST(Sounds, TheRustleIsShortAndIsNoTone) {
@@ -144,7 +146,7 @@ TEST(MidiReader, TimeFollowsEveryChangeOfTempo) {
 }
 
 TEST(MidiReader, DamagedFilesAreRefusedOrReadButNeverUpsetIt) {
-  const std::string whole = bytes_of(kRoot / "music/Canone.mid");
+  const std::string whole = bytes_of(kRoot / "assets/music/Canone.mid");
   for (const std::size_t length : {0, 3, 10, 14, 20, 100, 2000})
     EXPECT_FALSE(read_midi(whole.substr(0, length)).has_value());
   std::mt19937 chance(3);

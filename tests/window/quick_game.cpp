@@ -15,11 +15,11 @@
 #include <functional>
 
 #include "match/state_check.h"
-#include "platform/desktop/desktop.h"
-#include "platform/desktop/disk_archive.h"
+#include "pictures/pictures.h"
+#include "qt/desktop.h"
+#include "qt/disk_archive.h"
 #include "shell/ids.h"
 #include "shell/program.h"
-#include "table/pictures/pictures.h"
 #include "tools/simulation/quiet.h"
 
 namespace tombrello {
@@ -178,7 +178,8 @@ extern "C" const char* __lsan_default_suppressions() {
 
 int main(int argc, char** argv) {
   using namespace tombrello;
-  Desktop desktop(argc, argv, draw_picture, draw_icon());
+  using namespace tombrello::qt;
+  Desktop desktop(argc, argv, art::draw_picture, art::draw_icon());
   if (argc != 5) return 2;
   const QString folder = argv[1];
   DiskArchive archive(folder, folder + "/user");

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <fstream>
 
-#include "platform/window.h"
 #include "player.h"
+#include "seam/window.h"
 
 namespace tombrello {
 namespace {

@@ -3,16 +3,16 @@
 #include <QPainter>
 #include <QTransform>
 
-#include "platform/desktop/rasteriser.h"
-#include "platform/desktop/surface_painter.h"
-#include "platform/headless/headless_window.h"
+#include "headless/headless_window.h"
+#include "pictures/pictures.h"
+#include "qt/rasteriser.h"
+#include "qt/surface_painter.h"
 #include "table/painted_table.h"
-#include "table/pictures/pictures.h"
 #include "tools/simulation/simulation.h"
 
-using tombrello::draw_picture;
 using tombrello::PictureSet;
-using tombrello::rasterise;
+using tombrello::art::draw_picture;
+using tombrello::qt::rasterise;
 
 namespace {
 
@@ -78,6 +78,7 @@ QImage strip_sheet(int unit) {
 
 QImage table_sheet(int width, int height) {
   using namespace tombrello;
+  using namespace tombrello::qt;
   constexpr int kTurns = 26;
   Simulation simulation(ScriptKind::melder, 7);
   simulation.play_hand(kTurns, true);
@@ -104,7 +105,7 @@ QImage opening_sheet(int width, int height) {
 }
 
 QImage icon(int size) {
-  return rasterise(tombrello::draw_icon(), size, size);
+  return rasterise(tombrello::art::draw_icon(), size, size);
 }
 
 QImage icon_sheet() {

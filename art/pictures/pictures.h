@@ -1,0 +1,17 @@
+#pragma once
+
+#include "seam/drawing.h"
+#include "seam/picture.h"
+
+namespace tombrello::art {
+
+/// The one door to the game's pictures. Answers the vectors of any picture but the lying ones:
+/// for `cartao` and `dorsoo` it answers the upright form, and whoever rasterises turns it a
+/// quarter turn clockwise, so that both forms agree to the pixel.
+/// The drawing's width and height are the picture's told size in pixels (96 by 153 and so on).
+Drawing draw_picture(Picture picture);
+
+/// The program's icon, a square drawing of 64 by 64 units.
+Drawing draw_icon();
+
+}  // namespace tombrello::art

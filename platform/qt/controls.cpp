@@ -1,0 +1,238 @@
+#include "qt/controls.h"
+
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <algorithm>
+#include <cmath>
+
+#include "qt/surface_painter.h"
+#include "qt/table_widget.h"
+#include "qt/text_style.h"
+
+namespace tombrello::qt {
+namespace {
+
+constexpr int kPanelMargin = 8;
+
+// Far more than any name, and little enough to be laid out at once whatever was pasted.
+constexpr int kMostTyped = 512;
+
+QColor colour_or(long colour, const QColor& otherwise) {
+  return colour < 0 ? otherwise : to_qcolor(static_cast<Colour>(colour));
+}
+
+bool may_stand_in_name(char32_t character) {
+  if (character == U',' || character == U'"') return false;
+  const QChar::Category category = QChar::category(character);
+  return QChar::isPrint(character) && category != QChar::Separator_Line &&
+         category != QChar::Separator_Paragraph;
+}
+
+qsizetype length_in_capitals(char32_t character) {
+  return QString::fromUcs4(&character, 1).toUpper().toUcs4().size();
+}
+
+// The first line, and each line that has an empty one above it and a text below it.
+bool is_heading(const QTextBlock& line) {
+  if (!line.previous().isValid()) return true;
+  return line.previous().text().isEmpty() && !line.next().text().isEmpty();
+}
+
+void set_headings_off(QTextDocument& document) {
+  QTextCharFormat bold;
+  bold.setFontWeight(QFont::Bold);
+  for (QTextBlock line = document.begin(); line.isValid(); line = line.next()) {
+    if (!is_heading(line)) continue;
+    QTextCursor cursor(line);
+    cursor.select(QTextCursor::BlockUnderCursor);
+    cursor.mergeCharFormat(bold);
+  }
+}
+
+}  // namespace
+
+Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_colour,
+             long back_colour, QWidget& parent, WindowEvents& events)
+    : QTextEdit(&parent), id_(id), events_(events) {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::NoTextInteraction);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  setFocusPolicy(Qt::NoFocus);
+  setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Plain));
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, colour_or(back_colour, colours.color(QPalette::Window)));
+  colours.setColor(QPalette::Text, colour_or(text_colour, colours.color(QPalette::WindowText)));
+  setPalette(colours);
+  setFont(control_font(font));
+  document()->setDocumentMargin(kPanelMargin);
+  setPlainText(QString::fromStdString(text));
+  set_headings_off(*document());
+  setCursor(Qt::ArrowCursor);
+  viewport()->setCursor(Qt::ArrowCursor);
+}
+
+void Panel::fit(const Area& area, const TableGeometry& geometry) {
+  QRect place = geometry.widget_rect(geometry.pixels(area));
+  const int lowest = geometry.widget_rect(geometry.table()).bottom();
+  document()->setTextWidth(std::max(1, place.width() - 2 * frameWidth()));
+  const int needed = static_cast<int>(std::ceil(document()->size().height())) + 2 * frameWidth();
+  if (needed > place.height()) place.setBottom(std::min(lowest, place.top() + needed - 1));
+  const bool all = place.height() >= needed;
+  setVerticalScrollBarPolicy(all ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+  setGeometry(place);
+}
+
+void Panel::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+}
+void Panel::mouseDoubleClickEvent(QMouseEvent* event) {
+  event->accept();
+}
+void Panel::mouseMoveEvent(QMouseEvent* event) {
+  event->accept();
+}
+void Panel::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+  if (rect().contains(event->position().toPoint())) events_.control_clicked(id_);
+}
+
+QString allowed_in_field(const QString& text, int most_characters) {
+  QString allowed;
+  qsizetype room = most_characters;
+  for (const char32_t character : text.left(kMostTyped).toUcs4()) {
+    if (!may_stand_in_name(character)) continue;
+    room -= length_in_capitals(character);
+    if (room < 0) break;
+    allowed += QString::fromUcs4(&character, 1);
+  }
+  return allowed;
+}
+
+Field::Field(ControlId id, int most_characters, const Font& font, QWidget& parent,
+             WindowEvents& events)
+    : QLineEdit(&parent), id_(id), most_characters_(most_characters), font_(font), events_(events) {
+  setFrame(false);
+  setMaxLength(kMostTyped);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& raw) { edited(raw); });
+  connect(this, &QLineEdit::returnPressed, this, [this] { events_.field_confirmed(id_); });
+}
+
+// Letters are measured in points, but never higher than the field.
+void Field::fit(const Area& area, const TableGeometry& geometry) {
+  const QRect place = geometry.widget_rect(geometry.pixels(area));
+  QFont letters = control_font(font_);
+  int size = std::max(1, qRound(geometry.pixels_per_point() * font_.size / geometry.ratio()));
+  do {
+    letters.setPixelSize(size);
+  } while (QFontMetrics(letters).height() > place.height() - 2 && --size > 4);
+  setFont(letters);
+  setGeometry(place);
+}
+
+void Field::set_text(const std::string& text) {
+  setText(allowed_in_field(QString::fromStdString(text), most_characters_));
+}
+
+// What is typed into a full field is what doesn't fit, wherever it was typed.
+void Field::edited(const QString& raw) {
+  const QString behind = allowed_in_field(raw.mid(cursorPosition()), most_characters_);
+  const int room = most_characters_ - static_cast<int>(behind.toUpper().toUcs4().size());
+  const QString before = allowed_in_field(raw.left(cursorPosition()), room);
+  const QString allowed = before + behind;
+  if (allowed != raw) {
+    setText(allowed);
+    setCursorPosition(static_cast<int>(before.size()));
+  }
+  events_.field_changed(id_, allowed.toStdString());
+}
+
+void Field::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  painter.setClipRegion(QRegion(rect()) - QRegion(rect().adjusted(1, 1, -1, -1)));
+  painter.fillRect(rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+}
+
+ShapeControl::ShapeControl(Colour colour, QWidget& parent)
+    : QWidget(&parent), colour_(to_qcolor(colour)) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+// A raised bar with a tick: without a word it says that a press on it agrees.
+void ShapeControl::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF bar = rect();
+  QLinearGradient light(bar.topLeft(), bar.bottomLeft());
+  light.setColorAt(0, colour_.lighter(170));
+  light.setColorAt(0.45, colour_);
+  light.setColorAt(1, colour_.darker(130));
+  painter.setBrush(light);
+  painter.setPen(colour_.darker(220));
+  painter.drawRoundedRect(bar.adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+
+  const double unit = bar.height() / 10;
+  const QPointF middle = bar.center();
+  QPen pen(Qt::white, 1.6 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  painter.setPen(pen);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPolyline(
+      QPolygonF({middle + QPointF(-3.2, 0.2) * unit, middle + QPointF(-0.9, 2.5) * unit,
+                 middle + QPointF(3.6, -2.5) * unit}));
+}
+
+void ShapeControl::fit(const Area& area, const TableGeometry& geometry) {
+  setGeometry(geometry.widget_rect(geometry.pixels(area)));
+}
+
+PictureControl::PictureControl(ControlId id, Picture picture, QWidget& parent,
+                               PictureCache& pictures, WindowEvents& events)
+    : QWidget(&parent), id_(id), picture_(picture), pictures_(pictures), events_(events) {
+  setFocusPolicy(Qt::StrongFocus);
+  setCursor(Qt::ArrowCursor);
+}
+
+void PictureControl::fit(const Area& area, const TableGeometry& geometry) {
+  pixels_ = geometry.picture_pixels(area);
+  ratio_ = geometry.ratio();
+  setGeometry(geometry.widget_rect(pixels_));
+  update();
+}
+
+void PictureControl::paintEvent(QPaintEvent*) {
+  if (pixels_.isEmpty()) return;
+  QPainter painter(this);
+  painter.translate(-pos());
+  use_true_pixels(painter, ratio_);
+  const Look look{picture_, false, false, pixels_.size()};
+  painter.drawImage(pixels_.topLeft(), pictures_.rendered(look).image);
+}
+
+void PictureControl::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+}
+void PictureControl::mouseReleaseEvent(QMouseEvent* event) {
+  if (rect().contains(event->position().toPoint())) events_.control_clicked(id_);
+}
+
+// Shift or a function key alone is no character, and means something else to the window.
+void PictureControl::keyPressEvent(QKeyEvent* event) {
+  if (event->text().isEmpty()) {
+    event->ignore();
+  } else {
+    events_.control_key_pressed(id_);
+  }
+}
+
+void PictureControl::showEvent(QShowEvent*) {
+  setFocus();
+}
+
+}  // namespace tombrello::qt

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QTextEdit>
+#include <QWidget>
+
+#include "qt/geometry.h"
+#include "qt/picture_cache.h"
+#include "seam/window.h"
+
+namespace tombrello::qt {
+
+/// Something that lies over the table and follows it.
+class Control {
+ public:
+  virtual ~Control() = default;
+  virtual QWidget& widget() = 0;
+  virtual void fit(const Area& area, const TableGeometry& geometry) = 0;
+};
+
+/// A framed text with bold headings. Where it needs more room than it was given, it grows downward
+/// to the table's lower edge, and scrolls beyond that.
+class Panel : public QTextEdit, public Control {
+ public:
+  Panel(ControlId id, const std::string& text, const Font& font, long text_colour, long back_colour,
+        QWidget& parent, WindowEvents& events);
+  QWidget& widget() override { return *this; }
+  void fit(const Area& area, const TableGeometry& geometry) override;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  ControlId id_;
+  WindowEvents& events_;
+};
+
+/// What may stand in a field: no comma, no double quote, nothing that doesn't print, and as
+/// many characters as stay within the bound when they are turned into capitals.
+QString allowed_in_field(const QString& text, int most_characters);
+
+class Field : public QLineEdit, public Control {
+ public:
+  Field(ControlId id, int most_characters, const Font& font, QWidget& parent, WindowEvents& events);
+  QWidget& widget() override { return *this; }
+  void fit(const Area& area, const TableGeometry& geometry) override;
+  void set_text(const std::string& text);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void edited(const QString& raw);
+
+  ControlId id_;
+  int most_characters_;
+  Font font_;
+  WindowEvents& events_;
+};
+
+/// A bar that invites a press, which is a press on the table under it.
+class ShapeControl : public QWidget, public Control {
+ public:
+  ShapeControl(Colour colour, QWidget& parent);
+  QWidget& widget() override { return *this; }
+  void fit(const Area& area, const TableGeometry& geometry) override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor colour_;
+};
+
+/// A picture that can be clicked, and that takes the keyboard while it shows.
+class PictureControl : public QWidget, public Control {
+ public:
+  PictureControl(ControlId id, Picture picture, QWidget& parent, PictureCache& pictures,
+                 WindowEvents& events);
+  QWidget& widget() override { return *this; }
+  void fit(const Area& area, const TableGeometry& geometry) override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  ControlId id_;
+  Picture picture_;
+  PictureCache& pictures_;
+  WindowEvents& events_;
+  QRect pixels_;  ///< in the table's pixels
+  double ratio_ = 1;
+};
+
+}  // namespace tombrello::qt

@@ -1,0 +1,67 @@
+#include "qt/desktop.h"
+
+#include <QStandardPaths>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+
+namespace tombrello::qt {
+namespace {
+
+[[noreturn]] void end_without_screen() {
+  std::fputs(
+      "tombrello: no screen can be reached; DISPLAY must name one, or WAYLAND_DISPLAY with the "
+      "package qt6-wayland\n",
+      stderr);
+  std::_Exit(1);
+}
+
+// While the application object is made, a fatal message means that Qt found no screen. The
+// warnings before it say the same in many lines.
+void at_start(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type == QtFatalMsg) end_without_screen();
+}
+
+QtMessageHandler watch_start() {
+  const bool any = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+                   !qEnvironmentVariableIsEmpty("DISPLAY") ||
+                   !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+  if (!any) end_without_screen();
+  return qInstallMessageHandler(at_start);
+}
+
+QString user_folder() {
+  return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
+}  // namespace
+
+Desktop::Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  setApplicationName("tombrello");
+  setApplicationDisplayName("Tombrello");
+  setDesktopFileName("tombrello");
+  // Qt takes over the user's locale; numbers in files keep their point.
+  std::setlocale(LC_NUMERIC, "C");
+}
+
+Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon)
+    : messages_(watch_start()),
+      application_(argc, argv),
+      window_(std::move(pictures), icon),
+      timer_(window_.events()),
+      archive_(QCoreApplication::applicationDirPath(), user_folder()),
+      audio_(
+          QCoreApplication::applicationDirPath().toStdString(), [this] { wake_for_audio(); },
+          QApplication::beep) {
+  qInstallMessageHandler(messages_);
+  window_.after_first_paint([this] { audio_.start(); });
+  stop_signal_.listen([this] { window_.stop(); });
+}
+
+// Called on another thread.
+void Desktop::wake_for_audio() {
+  QMetaObject::invokeMethod(
+      &application_, [this] { audio_.deliver(); }, Qt::QueuedConnection);
+}
+
+}  // namespace tombrello::qt

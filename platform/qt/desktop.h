@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QApplication>
+
+#include "qt/audio/sdl_audio.h"
+#include "qt/desktop_timer.h"
+#include "qt/desktop_window.h"
+#include "qt/disk_archive.h"
+#include "qt/stop_signal.h"
+
+namespace tombrello::qt {
+
+/// Everything that the program asks of a desktop, made in the right order. One in a process,
+/// made before any thread is started:
+///
+///     int main(int argc, char** argv) {
+///       Desktop desktop(argc, argv, draw_picture, draw_icon());
+///       Program program({desktop.window(), desktop.timer(), ...});
+///       desktop.set_media_events(&program);
+///       program.run();
+///     }
+///
+/// Where no screen can be reached, the constructor says so in one line on standard error and
+/// ends the process with status 1.
+class Desktop {
+ public:
+  /// `pictures` answers the vectors of any picture; `icon` is the program's.
+  Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon);
+
+  Window& window() { return window_; }
+  Timer& timer() { return timer_; }
+  Archive& archive() { return archive_; }
+  MediaControl& wave() { return audio_.wave(); }
+  MediaControl& sequencer() { return audio_.sequencer(); }
+  Beeper& beeper() { return audio_.beeper(); }
+  void set_media_events(MediaEvents* events) { audio_.set_events(events); }
+
+ private:
+  /// Qt ends a process without a screen by a core dump; this one goes quietly.
+  class Application : public QApplication {
+   public:
+    Application(int& argc, char** argv);
+  };
+
+  void wake_for_audio();
+
+  StopSignal stop_signal_;
+  QtMessageHandler messages_;
+  Application application_;
+  DesktopWindow window_;
+  DesktopTimer timer_;
+  DiskArchive archive_;
+  SdlAudio audio_;
+};
+
+}  // namespace tombrello::qt

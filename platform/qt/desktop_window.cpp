@@ -1,0 +1,155 @@
+#include "qt/desktop_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QIcon>
+#include <QPushButton>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+#include "qt/rasteriser.h"
+
+namespace tombrello::qt {
+namespace {
+
+// Wide enough for its own title, and without buttons that it has no use for.
+constexpr int kBoxWidth = 220;
+constexpr auto kBoxFrame = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+QIcon icon_of(const Drawing& drawing) {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    icon.addPixmap(QPixmap::fromImage(rasterise(drawing, size, size)));
+  }
+  return icon;
+}
+
+Qt::CursorShape cursor_of(PointerShape shape) {
+  switch (shape) {
+    case PointerShape::up_arrow:
+      return Qt::UpArrowCursor;
+    case PointerShape::hourglass:
+      return Qt::WaitCursor;
+    case PointerShape::arrow:
+      break;
+  }
+  return Qt::ArrowCursor;
+}
+
+}  // namespace
+
+void DesktopWindow::Frame::closeEvent(QCloseEvent* event) {
+  closing_ = true;
+  event->accept();
+}
+
+DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
+    : table_(new TableWidget(std::move(pictures), relay_)), overlay_(*table_, relay_) {
+  frame_.menuBar()->setNativeMenuBar(false);
+  frame_.menuBar()->setContextMenuPolicy(Qt::PreventContextMenu);
+  frame_.setContextMenuPolicy(Qt::PreventContextMenu);
+  frame_.setCentralWidget(table_);
+  frame_.setMinimumSize(400, 300);
+  frame_.resize(1000, 780);
+  frame_.setWindowIcon(icon_of(icon));
+  // Leaving is up to the chain of the game: the window only says that it is closing.
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+void DesktopWindow::set_caption(const std::string& text) {
+  frame_.setWindowTitle(QString::fromStdString(text));
+}
+
+void DesktopWindow::show_maximised() {
+  frame_.showMaximized();
+}
+
+void DesktopWindow::serve_events() {
+  table_->show_changes();
+  // Without a window nothing would come to end the sleep.
+  QCoreApplication::processEvents(closing_ ? QEventLoop::AllEvents
+                                           : QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void DesktopWindow::show_now(int milliseconds) {
+  if (closing_) return;
+  const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+  table_->show_changes_now();
+  std::this_thread::sleep_until(until);
+}
+
+void DesktopWindow::close() {
+  closing_ = true;
+  frame_.close();
+}
+
+void DesktopWindow::stop() {
+  closing_ = true;
+  if (box_ != nullptr) box_->reject();
+  frame_.close();
+}
+
+void DesktopWindow::set_pointer(PointerShape shape) {
+  pointer_ = shape;
+  table_->setCursor(cursor_of(shape));
+}
+
+Answer DesktopWindow::message_box(const std::string& text, Buttons buttons) {
+  const Answer otherwise = buttons == Buttons::ok ? Answer::ok : Answer::no;
+  if (closing_) return otherwise;
+  table_->show_changes();
+  QMessageBox box(QMessageBox::NoIcon, "", "", QMessageBox::NoButton, &frame_, kBoxFrame);
+  box.setWindowTitle("Tombrello");
+  box.setTextFormat(Qt::PlainText);
+  box.setText(QString::fromStdString(text));
+  QPushButton* yes = nullptr;
+  if (buttons == Buttons::yes_no) {
+    yes = box.addButton(QString::fromUtf8("Sì"), QMessageBox::YesRole);
+    box.setEscapeButton(box.addButton("No", QMessageBox::NoRole));
+    box.setDefaultButton(yes);
+  } else {
+    box.addButton("OK", QMessageBox::AcceptRole);
+  }
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->setColumnMinimumWidth(grid->columnCount() - 1, kBoxWidth);
+  }
+  box_ = &box;
+  box.exec();
+  box_ = nullptr;
+  const bool agreed = !closing_ && yes != nullptr && box.clickedButton() == yes;
+  return agreed ? Answer::yes : otherwise;
+}
+
+void DesktopWindow::add_entry(EntryId entry, EntryId parent, const std::string& caption) {
+  menus_.add(entry, parent, caption);
+}
+
+void DesktopWindow::add_panel(ControlId panel, const std::string& text, const Font& font,
+                              long text_colour, long back_colour) {
+  overlay_.add_panel(panel, text, font, text_colour, back_colour);
+}
+
+void DesktopWindow::add_field(ControlId field, int most_characters, const Font& font) {
+  overlay_.add_field(field, most_characters, font);
+}
+
+void DesktopWindow::add_shape(ControlId shape, Colour colour) {
+  overlay_.add_shape(shape, colour);
+}
+
+void DesktopWindow::add_picture(ControlId control, Picture picture) {
+  overlay_.add_picture(control, picture);
+}
+
+void DesktopWindow::set_visible(ControlId control, bool visible) {
+  overlay_.set_visible(control, visible);
+}
+
+void DesktopWindow::set_text(ControlId field, const std::string& text) {
+  overlay_.set_text(field, text);
+}
+
+}  // namespace tombrello::qt

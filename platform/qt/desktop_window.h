@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QMessageBox>
+#include <string>
+
+#include "qt/event_relay.h"
+#include "qt/menus.h"
+#include "qt/overlay.h"
+#include "qt/table_widget.h"
+#include "seam/drawing.h"
+#include "seam/window.h"
+
+namespace tombrello::qt {
+
+/// The program's window on a Qt desktop. Needs the application object as long as it lives.
+class DesktopWindow : public Window {
+ public:
+  DesktopWindow(PictureSource pictures, const Drawing& icon);
+
+  void set_events(WindowEvents* events) override { relay_.set_target(events); }
+  Surface& surface() override { return table_->surface(); }
+  void set_caption(const std::string& text) override;
+  void show_maximised() override;
+
+  void serve_events() override;
+  void show_now(int milliseconds) override;
+  bool closing() const override { return closing_; }
+  void close() override;
+  /// As `close`, and takes down a message box that waits for its answer.
+  void stop();
+
+  void set_pointer(PointerShape shape) override;
+  PointerShape pointer() const override { return pointer_; }
+  Answer message_box(const std::string& text, Buttons buttons) override;
+
+  void add_entry(EntryId entry, EntryId parent, const std::string& caption) override;
+  void set_checked(EntryId entry, bool checked) override { menus_.set_checked(entry, checked); }
+  bool checked(EntryId entry) const override { return menus_.checked(entry); }
+  void set_enabled(EntryId entry, bool enabled) override { menus_.set_enabled(entry, enabled); }
+  bool enabled(EntryId entry) const override { return menus_.enabled(entry); }
+
+  void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
+                 long back_colour) override;
+  void add_field(ControlId field, int most_characters, const Font& font) override;
+  void add_shape(ControlId shape, Colour colour) override;
+  void add_picture(ControlId control, Picture picture) override;
+  void place(ControlId control, const Area& area) override { overlay_.place(control, area); }
+  void set_visible(ControlId control, bool visible) override;
+  bool visible(ControlId control) const override { return overlay_.visible(control); }
+  void bring_to_front(ControlId control) override { overlay_.bring_to_front(control); }
+  void set_text(ControlId field, const std::string& text) override;
+
+  /// Called once, soon after the window has first been painted.
+  void after_first_paint(std::function<void()> action) {
+    table_->after_first_paint(std::move(action));
+  }
+
+  QMainWindow& frame() { return frame_; }
+  TableWidget& table() { return *table_; }
+  WindowEvents& events() { return relay_; }  ///< where parts beside the window report
+
+ private:
+  class Frame : public QMainWindow {
+   public:
+    explicit Frame(bool& closing) : closing_(closing) {}
+
+   protected:
+    void closeEvent(QCloseEvent* event) override;
+
+   private:
+    bool& closing_;
+  };
+
+  bool closing_ = false;
+  PointerShape pointer_ = PointerShape::arrow;
+  EventRelay relay_;
+  Frame frame_{closing_};
+  TableWidget* table_;  ///< belongs to the frame
+  Menus menus_{*frame_.menuBar(), relay_};
+  Overlay overlay_;
+  QMessageBox* box_ = nullptr;  ///< while one waits
+};
+
+}  // namespace tombrello::qt

@@ -1,0 +1,129 @@
+#include "qt/table_widget.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QtMath>
+#include <utility>
+
+#include "qt/surface_painter.h"
+
+namespace tombrello::qt {
+namespace {
+
+// While the window is being dragged to another size, a paint renders so many milliseconds of
+// pictures; those that are left are stretched for the moment and follow in the next paint.
+constexpr int kPatience = 30;
+
+Button button_of(Qt::MouseButton button) {
+  if (button == Qt::LeftButton) return Button::left;
+  return button == Qt::RightButton ? Button::right : Button::other;
+}
+
+// A pixel more on each side: where the ratio is no whole number, edges fall between pixels.
+QRegion region_in_pixels(const QRegion& region, double ratio) {
+  QRegion pixels;
+  for (const QRect& part : region) {
+    pixels +=
+        QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
+            .toAlignedRect()
+            .adjusted(-1, -1, 1, 1);
+  }
+  return pixels;
+}
+
+}  // namespace
+
+void use_true_pixels(QPainter& painter, double ratio) {
+  const QTransform device = painter.deviceTransform();
+  painter.translate((qRound(device.dx()) - device.dx()) / ratio,
+                    (qRound(device.dy()) - device.dy()) / ratio);
+  painter.scale(1 / ratio, 1 / ratio);
+}
+
+TableWidget::TableWidget(PictureSource source, WindowEvents& events)
+    : events_(events), pictures_(std::move(source)) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::ClickFocus);
+}
+
+void TableWidget::set_follower(std::function<void(const TableGeometry&)> follower) {
+  follower_ = std::move(follower);
+}
+
+TableGeometry TableWidget::current_geometry() const {
+  const double ratio = devicePixelRatioF();
+  return {QSize(qCeil(width() * ratio), qCeil(height() * ratio)), ratio,
+          static_cast<double>(logicalDpiY())};
+}
+
+void TableWidget::follow_screen() {
+  const TableGeometry current = current_geometry();
+  if (current == geometry_) return;
+  if (current.scale() != geometry_.scale()) {
+    pictures_.start_round();
+    stale_sizes_ = true;
+  }
+  geometry_ = current;
+  if (follower_) follower_(geometry_);
+  update();
+}
+
+QRegion TableWidget::changed_region() {
+  follow_screen();
+  const Surface::Changes changes = surface_.take_changes();
+  if (changes.everything) return rect();
+  QRegion region;
+  for (const Item& item : changes.items) {
+    region += geometry_.widget_rect(changed_pixels(item, geometry_)).adjusted(-1, -1, 1, 1);
+  }
+  return region & rect();
+}
+
+void TableWidget::show_changes() {
+  const QRegion region = changed_region();
+  if (!region.isEmpty()) update(region);
+}
+
+void TableWidget::show_changes_now() {
+  const QRegion region = changed_region();
+  if (!region.isEmpty()) repaint(region);
+}
+
+void TableWidget::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  use_true_pixels(painter, geometry_.ratio());
+  const QRegion exposed = region_in_pixels(event->region(), geometry_.ratio());
+  const QRegion drafts =
+      paint_surface(painter, surface_, geometry_, exposed, pictures_, QDeadlineTimer(kPatience));
+  for (const QRect& draft : drafts) update(geometry_.widget_rect(draft));
+  if (stale_sizes_ && drafts.isEmpty()) {
+    pictures_.drop_unused();
+    stale_sizes_ = false;
+  }
+  if (first_paint_) QTimer::singleShot(0, this, std::exchange(first_paint_, nullptr));
+}
+
+void TableWidget::resizeEvent(QResizeEvent*) {
+  follow_screen();
+}
+
+void TableWidget::mousePressEvent(QMouseEvent* event) {
+  const QPointF place = geometry_.logical(event->position());
+  events_.pressed(button_of(event->button()), static_cast<float>(place.x()),
+                  static_cast<float>(place.y()));
+}
+
+// Qt sends it in the place of the second press.
+void TableWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  mousePressEvent(event);
+}
+
+void TableWidget::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF place = geometry_.logical(event->position());
+  events_.moved(static_cast<float>(place.x()), static_cast<float>(place.y()));
+}
+
+}  // namespace tombrello::qt
