@@ -58,13 +58,14 @@ template <class Decision>
 void decide(benchmark::State& run, Decision decision) {
   Positions positions;
   State state;
-  const Metrics metrics;
+  const Geometry geometry;
   CountingClock clock(1);
   QuietTable table;
   QuietSound sound;
   QuietShell shell;
+  QuietEvents events;
   NoWait wait;
-  Rules rules(state, metrics, clock, {table, wait, sound, shell});
+  Rules rules(state, geometry, clock, {table, wait, sound, shell, events});
   for (auto _ : run) {
     state = positions.next();
     decision(rules.computer, state);

@@ -38,9 +38,10 @@ class Screen {
         pictures_(draw_picture),
         state_(some_hand()),
         window_(timer_),
-        table_(state_, metrics_, window_) {
+        table_(state_, geometry_, window_) {
     window_.surface().set_background(kFelt);
-    table_.repaint_hand();
+    state_.phase = Phase::hand;
+    table_.repaint();
     window_.surface().take_changes();
     paint(image_.rect());
   }
@@ -66,7 +67,7 @@ class Screen {
   TableGeometry geometry_;
   PictureCache pictures_;
   State state_;
-  Metrics metrics_;
+  Geometry geometry_;
   HeadlessTimer timer_;
   HeadlessWindow window_;
   PaintedTable table_;

@@ -17,9 +17,6 @@ constexpr float kShapeHeight = 9.9F;
 constexpr Colour kShape0Colour = 32896;
 constexpr Colour kShape1Colour = 49344;
 
-constexpr Area kConfirmButton = {kFieldX, kShapeTop, kFieldX + kFieldWidth,
-                                 kShapeTop + kShapeHeight};
-
 float field_top(int index) {
   return kFieldTop + static_cast<float>(index - 1) * kFieldHeight;
 }
@@ -59,7 +56,7 @@ void NamesDialog::personalize_players_Click() {
   }
   window_.bring_to_front(TxtPlayer_0 + 1);
   for (const ControlId shape : {Shape1_0, Shape1_1}) {
-    window_.place(shape, kConfirmButton);
+    window_.place(shape, area_of(confirm_button()));
     window_.set_visible(shape, true);
   }
   window_.bring_to_front(Shape1_0);
@@ -71,24 +68,22 @@ void NamesDialog::TxtPlayer_Change(int index, const std::string& text) {
   if (is_storable_name(name)) s_.nomi[static_cast<std::size_t>(index - 1)] = name;
 }
 
-bool NamesDialog::is_on_confirm_button(float x, float y) const {
-  return kConfirmButton.left < x && x < kConfirmButton.right && kConfirmButton.top < y &&
-         y < kConfirmButton.bottom;
+Place NamesDialog::confirm_button() {
+  return {kFieldX, kShapeTop, kFieldX + kFieldWidth, kShapeTop + kShapeHeight};
 }
 
-void NamesDialog::confirm() {
-  settings_.Registra_Players();
-  s_.azione = kNamesConfirmed;
-  hide();
-  window_.surface().clear();
-}
-
-void NamesDialog::close_if_open() {
+void NamesDialog::end(bool confirmed) {
   if (!is_open()) return;
   settings_.Registra_Players();
   hide();
-  // What the dialog printed goes; nothing else stands in this corner.
+  if (confirmed) {
+    s_.azione = kNamesConfirmed;  // the draw for dealer lays its screen out again
+    table_.repaint();
+    return;
+  }
+  // What the dialog printed goes; nothing but the prompt of the draw stands in this corner.
   window_.surface().filled_box(0, 0, kWidth, kBottom, window_.surface().background());
+  if (s_.phase == Phase::draw) table_.dealer_texts();
 }
 
 void NamesDialog::hide() {

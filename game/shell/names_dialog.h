@@ -6,6 +6,7 @@
 #include "seam/window.h"
 #include "shell/ids.h"
 #include "shell/settings.h"
+#include "table/painted_table.h"
 
 namespace tombrello {
 
@@ -13,8 +14,8 @@ namespace tombrello {
 /// for the opening picture or the deck meanwhile.
 class NamesDialog {
  public:
-  NamesDialog(State& state, Window& window, Settings& settings)
-      : s_(state), window_(window), settings_(settings) {}
+  NamesDialog(State& state, Window& window, Settings& settings, PaintedTable& table)
+      : s_(state), window_(window), settings_(settings), table_(table) {}
 
   /// Creates fields and shapes, hidden.
   void create();
@@ -23,12 +24,12 @@ class NamesDialog {
   void TxtPlayer_Change(int index, const std::string& text);
 
   bool is_open() const { return window_.visible(TxtPlayer_0 + 1); }
-  /// True if a press there confirms the names while the dialog is open.
-  bool is_on_confirm_button(float x, float y) const;
-  /// Keeps the names, closes, and clears the table for a screen that is laid out again.
-  void confirm();
-  /// Keeps the names and closes, leaving the table's picture but for the dialog's place.
-  void close_if_open();
+  /// A press there confirms the names while the dialog is open.
+  static Place confirm_button();
+  /// The one end of the dialog, if it is open: keeps the names, closes, and puts the table in
+  /// order. Confirmed, the table is cleared and painted again, by the game or here; left open
+  /// until the game went on, only the dialog's place is.
+  void end(bool confirmed);
 
  private:
   void hide();
@@ -36,6 +37,7 @@ class NamesDialog {
   State& s_;
   Window& window_;
   Settings& settings_;
+  PaintedTable& table_;
 };
 
 }  // namespace tombrello

@@ -3,12 +3,8 @@
 namespace tombrello {
 namespace {
 
-constexpr float kPromptX = 40;
-
-// A press exactly on a border belongs to no zone.
-bool between(float value, float low, float high) {
-  return low < value && value < high;
-}
+constexpr const char* kDrawFirst = "Prima pesca: fai clic sul Pozzo o sul Tallone";
+constexpr const char* kLastCard = "L'ultima carta non si seleziona: si può solo scartare";
 
 }  // namespace
 
@@ -25,10 +21,12 @@ void Pointer::Form_MouseDown(Button button, float x, float y) {
 void Pointer::press_right(float x, float y) {
   if (!s_.ha_pescato) {
     Surface& surface = window_.surface();
-    surface.set_text_position(kPromptX, prompt_y());
+    surface.set_text_position(g_.prompt().left, g_.prompt().top);
     surface.print("PESCARE");
+    if (s_.phase == Phase::hand && s_.di_turno == 1) chronicle_.remark(kDrawFirst);
     return;
   }
+  if (is_on_fan(x, y) && s_.n_mano[1] == 1) chronicle_.remark(kLastCard);
   if (is_on_fan(x, y) && s_.n_mano[1] != 1 && s_.azione != kDealerDraw) {
     s_.x_click = x;
     s_.azione = kSelect;
@@ -41,8 +39,8 @@ void Pointer::press_left(float x, float y) {
     return;
   }
   if (window_.enabled(personalize_players) && names_.is_open() &&
-      names_.is_on_confirm_button(x, y)) {
-    names_.confirm();
+      NamesDialog::confirm_button().holds(x, y)) {
+    names_.end(true);
     return;
   }
   if (s_.azione == kDealerDraw) {
@@ -61,26 +59,23 @@ void Pointer::press_left(float x, float y) {
 }
 
 void Pointer::press_on_dealer_deck(float x, float y) {
-  const float half_card = m_.larghezza_carta / 2;
-  if (between(x, m_.mezza_larghezza - half_card, m_.mezza_larghezza + half_card) &&
-      is_in_table_band(y)) {
-    s_.carta_scelta = static_cast<std::uint8_t>(s_.mazzo[s_.indice_estrazione]);
-  }
+  if (!g_.dealer_deck().holds(x, y)) return;
+  s_.carta_scelta = static_cast<std::uint8_t>(s_.mazzo[s_.indice_estrazione]);
 }
 
 void Pointer::press_before_draw(float x, float y) {
-  if (is_in_table_band(y)) {
-    window_.surface().filled_box(kPromptX, prompt_y(), kPromptX + 100, prompt_y() + 20, kFelt);
-    if (between(x, m_.mezza_larghezza - m_.larghezza_carta, m_.mezza_larghezza)) {
-      s_.azione = kDrawPile;
-      return;
-    }
-    if (between(x, m_.mezza_larghezza, m_.mezza_larghezza + m_.larghezza_carta)) {
-      s_.azione = kDrawStock;
-      return;
-    }
+  if (g_.is_in_table_band(y)) {
+    const Place prompt = g_.prompt();
+    window_.surface().filled_box(prompt.left, prompt.top, prompt.right, prompt.bottom, kFelt);
   }
-  press_on_melds(x, y);
+  if (g_.pile().holds(x, y)) {
+    s_.azione = kDrawPile;
+  } else if (g_.stock().holds(x, y)) {
+    s_.azione = kDrawStock;
+  } else {
+    press_on_melds(x, y);
+  }
+  if (is_on_fan(x, y)) chronicle_.remark(kDrawFirst);
 }
 
 // After the draw only the up arrow leads here; before it the looser bands of a press do, but
@@ -88,33 +83,14 @@ void Pointer::press_before_draw(float x, float y) {
 void Pointer::press_on_melds(float x, float y) {
   if (s_.azione == kDealerDraw) return;
   s_.x_click = x;
-  if (y > own_band_top()) s_.azione = kLayOwnSide;
-  if (is_in_partner_band(y)) s_.azione = kLayPartnerSide;
+  if (g_.band_for_press(1).holds(x, y)) s_.azione = kLayOwnSide;
+  if (g_.band_for_press(3).holds(x, y)) s_.azione = kLayPartnerSide;
 }
 
 void Pointer::Form_MouseMove(float x, float y) {
-  window_.set_pointer(PointerShape::arrow);
-  if (s_.di_turno != 1) return;
-  const float left = m_.striscia_x();
-  const float right = left + 13 * m_.passo_carta() + (26.0F / 36.0F) * m_.larghezza_carta;
-  if (!between(x, left, right)) return;
-  if (between(y, own_band_top(), own_band_top() + m_.altezza_carta) || is_in_partner_band(y)) {
-    window_.set_pointer(PointerShape::up_arrow);
-  }
-}
-
-bool Pointer::is_on_fan(float x, float y) const {
-  const float right = m_.ventaglio_x() + static_cast<float>(s_.n_mano[1]) * m_.passo_carta();
-  return between(x, m_.ventaglio_x(), right) &&
-         between(y, m_.riga_mano(), 2 * m_.mezza_altezza - 20);
-}
-
-bool Pointer::is_in_table_band(float y) const {
-  return between(y, m_.tavolo_y(), m_.mezza_altezza + m_.altezza_carta / 2);
-}
-
-bool Pointer::is_in_partner_band(float y) const {
-  return between(y, m_.altezza_carta + 50, 2 * m_.altezza_carta + 50);
+  const bool lays = s_.di_turno == 1 &&
+                    (g_.band_for_pointer(1).holds(x, y) || g_.band_for_pointer(3).holds(x, y));
+  window_.set_pointer(lays ? PointerShape::up_arrow : PointerShape::arrow);
 }
 
 }  // namespace tombrello

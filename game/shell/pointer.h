@@ -1,10 +1,11 @@
 #pragma once
 
-#include "cards/metrics.h"
+#include "cards/geometry.h"
 #include "cards/state.h"
 #include "seam/window.h"
 #include "shell/names_dialog.h"
 #include "shell/panels.h"
+#include "told/chronicle.h"
 
 namespace tombrello {
 
@@ -12,11 +13,38 @@ namespace tombrello {
 /// once; they act on no hand, pile or meld. Coordinates are logical units.
 class Pointer {
  public:
-  Pointer(State& state, const Metrics& metrics, Window& window, Panels& panels, NamesDialog& names)
-      : s_(state), m_(metrics), window_(window), panels_(panels), names_(names) {}
+  Pointer(State& state, const Geometry& geometry, Window& window, Panels& panels,
+          NamesDialog& names, Chronicle& chronicle)
+      : s_(state),
+        g_(geometry),
+        window_(window),
+        panels_(panels),
+        names_(names),
+        chronicle_(chronicle) {}
 
   void Form_MouseDown(Button button, float x, float y);
   void Form_MouseMove(float x, float y);
+
+  /// What a press here and now would do, and with what. The up arrow is taken as a move to this
+  /// place would leave it.
+  enum class Act {
+    none,
+    confirm_names,
+    draw_for_dealer,
+    draw_from_pile,
+    draw_from_stock,
+    select,  ///< or unselect
+    discard,
+    lower,  ///< the selected cards
+    add,    ///< the selected card, to a meld
+    lay     ///< the selected cards, as a meld
+  };
+  struct Meaning {
+    Act act = Act::none;
+    Place place;  ///< of what the press is for, as it is painted
+    bool operator==(const Meaning&) const = default;
+  };
+  Meaning meaning(Button button, float x, float y) const;
 
  private:
   void press_right(float x, float y);
@@ -24,17 +52,22 @@ class Pointer {
   void press_on_dealer_deck(float x, float y);
   void press_before_draw(float x, float y);
   void press_on_melds(float x, float y);
-  bool is_on_fan(float x, float y) const;
-  bool is_in_table_band(float y) const;
-  bool is_in_partner_band(float y) const;
-  float own_band_top() const { return m_.mezza_altezza + m_.altezza_carta + 20; }
-  float prompt_y() const { return 2 * m_.mezza_altezza - 100; }
+  Meaning right_press(float x, float y) const;
+  Meaning left_press(float x, float y) const;
+  Meaning press_on_side(int side, float x) const;
+  bool waits_for_press() const;
+  Place card_at(float x) const;
+  Place selected_cards() const;
+  Place meld_for(int side, float x) const;
+  int count_selected() const;
+  bool is_on_fan(float x, float y) const { return g_.fan(s_.n_mano[1]).holds(x, y); }
 
   State& s_;
-  const Metrics& m_;
+  const Geometry& g_;
   Window& window_;
   Panels& panels_;
   NamesDialog& names_;
+  Chronicle& chronicle_;
 };
 
 }  // namespace tombrello

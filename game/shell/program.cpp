@@ -1,26 +1,23 @@
 #include "shell/program.h"
 
 namespace tombrello {
-namespace {
-
-constexpr float kOpeningWidth = 480;
-constexpr float kOpeningHeight = 360;
-
-}  // namespace
 
 Program::Program(Platform platform)
     : window_(platform.window),
       settings_(s_, platform.archive),
       panels_(window_),
-      names_(s_, window_, settings_),
-      pointer_(s_, m_, window_, panels_, names_),
-      pacing_(s_, window_, platform.timer),
-      table_(s_, m_, window_),
+      table_(s_, g_, window_),
+      names_(s_, window_, settings_, table_),
+      chronicle_(s_, window_),
+      pointer_(s_, g_, window_, panels_, names_, chronicle_),
+      places_(s_, g_, pointer_),
+      mark_(window_, pointer_, places_),
+      pacing_(s_, window_, platform.timer, [this] { before_wait(); }),
       archive_(platform.archive),
       effects_(platform.wave, platform.beeper, s_.fruscio_opz),
       music_(platform.sequencer, window_, s_.brano, {menu_music, nomusic_0, all_0, canzoni_0},
              [this] { Set_Write(); }),
-      rules_(s_, m_, platform.clock, {table_, pacing_, effects_, *this}) {
+      rules_(s_, g_, platform.clock, {table_, pacing_, effects_, *this, chronicle_}) {
   window_.set_events(this);
 }
 
@@ -59,7 +56,7 @@ void Program::Form_Unload() {
 
 void Program::Form_Activate() {
   window_.surface().set_background(kGrey);
-  m_ = Metrics::at_scale(s_.scala_carte);
+  g_ = Geometry::at_scale(s_.scala_carte);
   open_with_picture();
   window_.surface().set_background(kFelt);
   rules_.match.Main();
@@ -67,21 +64,17 @@ void Program::Form_Activate() {
 
 void Program::open_with_picture() {
   window_.add_picture(quadro, {PictureSet::quadro, 0});
-  const float left = m_.mezza_larghezza - kOpeningWidth / 2;
-  const float top = m_.mezza_altezza - kOpeningHeight / 2;
-  window_.place(quadro, {left, top, left + kOpeningWidth, top + kOpeningHeight});
+  window_.place(quadro, area_of(g_.opening()));
   window_.bring_to_front(quadro);
   window_.set_visible(quadro, true);
   s_.click_avvio = false;
   while (!s_.click_avvio) pacing_.serve_events();
   window_.set_visible(quadro, false);
-  names_.close_if_open();
+  names_.end(false);
 }
 
 void Program::pressed(Button button, float x, float y) {
-  const bool dialog_was_open = names_.is_open();
   pointer_.Form_MouseDown(button, x, y);
-  if (dialog_was_open && !names_.is_open()) repaint_after_names();
 }
 
 void Program::control_clicked(ControlId control) {
@@ -100,34 +93,7 @@ void Program::field_changed(ControlId field, const std::string& text) {
 }
 
 void Program::field_confirmed(ControlId) {
-  if (!names_.is_open()) return;
-  names_.confirm();
-  repaint_after_names();
-}
-
-// The dealer screen is laid out again by the draw itself.
-void Program::repaint_after_names() {
-  if (screen_ == Screen::hand) table_.repaint_hand();
-  if (screen_ == Screen::score) table_.repaint_score();
-}
-
-// The count of a hand ends with this call, whichever way the entry goes.
-void Program::enable_continue(bool enabled) {
-  window_.set_enabled(menu_continue, enabled);
-  if (screen_ == Screen::hand) screen_ = Screen::score;
-}
-
-void Program::enable_names(bool enabled) {
-  window_.set_enabled(personalize_players, enabled);
-  if (enabled || !names_.is_open()) return;
-  names_.close_if_open();
-  table_.dealer_texts();
-}
-
-void Program::deal_begins() {
-  names_.close_if_open();
-  window_.set_enabled(menu_continue, false);
-  screen_ = Screen::hand;
+  names_.end(true);
 }
 
 }  // namespace tombrello

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "cards/clock.h"
-#include "cards/metrics.h"
+#include "cards/geometry.h"
 #include "cards/outside.h"
 #include "cards/state.h"
 #include "match/rules.h"
@@ -12,9 +12,11 @@
 #include "seam/media.h"
 #include "seam/timer.h"
 #include "seam/window.h"
+#include "shell/mark.h"
 #include "shell/names_dialog.h"
 #include "shell/pacing.h"
 #include "shell/panels.h"
+#include "shell/places.h"
 #include "shell/pointer.h"
 #include "shell/settings.h"
 #include "sound/effects.h"
@@ -47,32 +49,33 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   void run();
 
   const State& state() const { return s_; }
-  const Metrics& metrics() const { return m_; }
+  const Geometry& geometry() const { return g_; }
 
   void pressed(Button button, float x, float y) override;
-  void moved(float x, float y) override { pointer_.Form_MouseMove(x, y); }
+  void moved(float x, float y) override;
   void entry_chosen(EntryId entry) override;
   void control_clicked(ControlId control) override;
   void control_key_pressed(ControlId control) override;
   void field_changed(ControlId field, const std::string& text) override;
   void field_confirmed(ControlId field) override;
+  void key_pressed(Key key) override;
+  void key_released(Key key) override;
+  void place_pressed(int place, Button button) override;
   void timer_ticked() override { pacing_.Timer1_Timer(); }
 
   void media_done(int code) override { music_.MMC1_Done(code); }
 
   void Set_Write() override { settings_.Set_Write(); }
   void enable_replay(bool enabled) override { window_.set_enabled(menu_replay, enabled); }
-  void enable_continue(bool enabled) override;
-  void enable_names(bool enabled) override;
+  void enable_continue(bool enabled) override { window_.set_enabled(menu_continue, enabled); }
+  void enable_names(bool enabled) override { window_.set_enabled(personalize_players, enabled); }
   bool replay_checked() override { return window_.checked(menu_replay); }
   void uncheck_replay() override { window_.set_checked(menu_replay, false); }
-  void deal_begins() override;
+  void dealer_card_turned() override { names_.end(false); }
+  void deal_begins() override { names_.end(false); }
   void message(const std::string& text) override { window_.message_box(text, Buttons::ok); }
 
  private:
-  /// What stands on the table, to paint it again after the names dialog has cleared it.
-  enum class Screen { before_hands, hand, score };
-
   void Form_Load();
   void Form_Activate();
   void Form_Unload();
@@ -84,22 +87,27 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   void menu_card_rustle_Click(int index);
   void esci_Click();
   void choose_in_group(EntryId entry);
-  void repaint_after_names();
+  void before_wait();
+  void press_enter();
+  void press_space();
+  void press_at(std::optional<PressPoint> point, Button button);
 
   State s_;
-  Metrics m_;
+  Geometry g_;
   Window& window_;
   Settings settings_;
   Panels panels_;
-  NamesDialog names_;
-  Pointer pointer_;
-  Pacing pacing_;
   PaintedTable table_;
+  NamesDialog names_;
+  Chronicle chronicle_;
+  Pointer pointer_;
+  Places places_;
+  Mark mark_;
+  Pacing pacing_;
   Archive& archive_;
   Effects effects_;
   Music music_;
   Rules rules_;
-  Screen screen_ = Screen::before_hands;
 };
 
 }  // namespace tombrello

@@ -1,18 +1,22 @@
 #pragma once
 
-#include "cards/metrics.h"
+#include "cards/geometry.h"
 #include "cards/outside.h"
 #include "cards/state.h"
 #include "seam/window.h"
 
 namespace tombrello {
 
+inline Area area_of(const Place& place) {
+  return {place.left, place.top, place.right, place.bottom};
+}
+
 /// Paints the state on the window's surface. Each call paints just the part that it changes, and
 /// nothing is kept here between calls. Erasing is a filled box in felt green.
 class PaintedTable : public Table {
  public:
-  PaintedTable(const State& state, const Metrics& metrics, Window& window)
-      : s_(state), m_(metrics), window_(window), surface_(window.surface()) {}
+  PaintedTable(const State& state, const Geometry& geometry, Window& window)
+      : s_(state), g_(geometry), window_(window), surface_(window.surface()) {}
 
   void clear() override { surface_.clear(); }
   void default_pointer() override { window_.set_pointer(PointerShape::arrow); }
@@ -25,9 +29,9 @@ class PaintedTable : public Table {
   void scopro_carte() override;
 
   void pile_shows(int card) override;
-  void pile_empty() override;
+  void pile_empty() override { erase(g_.pile()); }
   void stock_shows(int back) override;
-  void stock_empty() override;
+  void stock_empty() override { erase(g_.stock()); }
 
   void card_dealt(int seat, int k, int card) override;
   void card_drawn(int card) override;
@@ -47,32 +51,29 @@ class PaintedTable : public Table {
 
   /// The names and the prompt of the dealer screen, as they are printed last of all there.
   void dealer_texts();
-  /// Clears the table and paints it anew from the state of the running hand, or of the deal;
-  /// once the seat on turn holds no card, with open hands.
-  void repaint_hand();
-  /// The same for a hand that has been counted: open cards, panel and scores.
-  void repaint_score();
+  /// Clears the table and paints anew what stands on it after the draw for dealer, by the phase.
+  void repaint();
 
  private:
   void repaint_deal();
-  void erase(float x1, float y1, float x2, float y2);
-  void paint_upright(Picture picture, float x, float y);
-  void paint_lying(Picture picture, float x, float y);
-  void paint_half_turned(Picture picture, float x, float y);
+  void repaint_hand();
+  void erase(const Place& place);
+  void erase_under_strips(const Place& place, int but_of_seat = 0);
+  bool is_strip_card(const PictureItem& item, int but_of_seat) const;
+  void paint_upright(Picture picture, const Place& place);
+  void paint_lying(Picture picture, const Place& place);
+  void paint_half_turned(Picture picture, const Place& place);
   void paint_back(int seat, int k, int back);
+  void paint_backs(int seat, int cards);
   void paint_strip(int seat);
-  void paint_strip_cards_in(int seat, const Area& box);
-  Area strip_area(int seat) const;
-  Area strip_card_area(int seat, int k) const;
   void open_card(int seat, int k);
-  float panel_top() const { return m_.mezza_altezza - 130; }
   void panel_box(float x1, float x2);
   void print_name(int seat);
   void print_name_downward(const std::string& name, float x);
   void print_score_line(const std::string& left, const std::string& right);
 
   const State& s_;
-  const Metrics& m_;
+  const Geometry& g_;
   Window& window_;
   Surface& surface_;
 };

@@ -6,9 +6,7 @@
 namespace tombrello {
 namespace {
 
-constexpr int kPanelHalfWidth = 199;
-constexpr float kPanelHeight = 240;
-constexpr int kPanelStep = 3;
+constexpr float kPanelStep = 3;
 constexpr int kPanelStepShown = 6;  // milliseconds; the whole within half a second
 constexpr int kMostLetters = 7;     // of a name
 constexpr float kTitleX = 500;      // right of seat 3's place
@@ -33,21 +31,21 @@ void PaintedTable::Posiziona_Players() {
 
 void PaintedTable::print_name(int seat) {
   const std::string& name = s_.nomi[static_cast<std::size_t>(seat - 1)];
-  const float x = m_.mezza_larghezza - m_.larghezza_carta / 2;
+  const float x = g_.mezza_larghezza - g_.larghezza_carta / 2;
   switch (seat) {
     case 1:
-      surface_.set_text_position(x, 2 * m_.mezza_altezza - 1.2F * m_.altezza_carta - 22);
+      surface_.set_text_position(x, 2 * g_.mezza_altezza - 1.2F * g_.altezza_carta - 22);
       surface_.print(name);
       break;
     case 3:
-      surface_.set_text_position(x, m_.altezza_carta + 30);
+      surface_.set_text_position(x, g_.altezza_carta + 30);
       surface_.print(name);
       break;
     case 2:
-      print_name_downward(name, m_.altezza_carta + 30);
+      print_name_downward(name, g_.altezza_carta + 30);
       break;
     default:
-      print_name_downward(name, 2 * m_.mezza_larghezza - m_.altezza_carta - 38);
+      print_name_downward(name, 2 * g_.mezza_larghezza - g_.altezza_carta - 38);
       break;
   }
 }
@@ -58,7 +56,7 @@ void PaintedTable::print_name_downward(const std::string& name, float x) {
   for (int i = 1; i <= kMostLetters; ++i) {
     const std::size_t length = at < name.size() ? character_length(name, at) : 0;
     const float pitch = surface_.font_size() + 10;
-    surface_.set_text_position(x, m_.mezza_altezza - 50 + pitch * static_cast<float>(i));
+    surface_.set_text_position(x, g_.mezza_altezza - 50 + pitch * static_cast<float>(i));
     surface_.print(name.substr(at, length));
     at += length;
   }
@@ -87,50 +85,42 @@ void PaintedTable::dealer_texts() {
 }
 
 void PaintedTable::reshuffle_message() {
-  surface_.set_text_position(m_.mezza_larghezza - 50, m_.mezza_altezza + 90);
+  const Place place = g_.reshuffle_message();
+  surface_.set_text_position(place.left, place.top);
   surface_.print("Rimescolo le carte del Pozzo");
 }
 
 void PaintedTable::reshuffle_begins() {
   pile_empty();
-  paint_upright({PictureSet::dorsov, 0}, m_.mezza_larghezza + 2 * m_.larghezza_carta,
-                m_.tavolo_y());
+  paint_upright({PictureSet::dorsov, 0}, g_.shuffled_pile());
 }
 
 void PaintedTable::reshuffle_ends() {
-  const float x = m_.mezza_larghezza + 2 * m_.larghezza_carta;
-  erase(x, m_.tavolo_y(), x + m_.larghezza_carta, m_.tavolo_y() + m_.altezza_carta);
-  erase(m_.mezza_larghezza - 50, m_.mezza_altezza + 90, m_.mezza_larghezza + 100,
-        m_.mezza_altezza + 100);
-  for (int seat = 1; seat <= kSeats; ++seat) paint_strip(seat);
+  erase_under_strips(g_.shuffled_pile());
+  erase_under_strips(g_.reshuffle_message());
 }
 
 void PaintedTable::panel_line() {
-  panel_box(m_.mezza_larghezza, m_.mezza_larghezza + 1);
+  panel_box(g_.mezza_larghezza, g_.mezza_larghezza + 1);
 }
 
 void PaintedTable::panel_box(float x1, float x2) {
-  surface_.filled_box(x1, panel_top(), x2, panel_top() + kPanelHeight, kGreen);
+  surface_.filled_box(x1, g_.count_panel().top, x2, g_.count_panel().bottom, kGreen);
 }
 
 void PaintedTable::panel_opens() {
-  const float x = m_.mezza_larghezza;
-  erase(x - 10, panel_top(), x + 10, panel_top() + 10);
-  for (int k = 1; k <= kPanelHalfWidth; k += kPanelStep) {
-    panel_box(x, x - static_cast<float>(k));
-    panel_box(x, x + static_cast<float>(k));
+  const float x = g_.mezza_larghezza;
+  const Place panel = g_.count_panel();
+  erase({x - 10, panel.top, x + 10, panel.top + 10});
+  for (float half = 1; half <= panel.right - x; half += kPanelStep) {
+    panel_box(x, x - half);
+    panel_box(x, x + half);
     window_.show_now(kPanelStepShown);
   }
 }
 
-void PaintedTable::repaint_score() {
-  repaint_hand();
-  panel_box(m_.mezza_larghezza - kPanelHalfWidth, m_.mezza_larghezza + kPanelHalfWidth);
-  scoreboard();
-}
-
 void PaintedTable::scoreboard() {
-  surface_.set_text_position(0, panel_top() + 5);
+  surface_.set_text_position(0, g_.count_panel().top + 5);
   surface_.set_text_colour(kBlue);
   print_score_line("Game    " + s_.squadre[0], s_.squadre[1]);
   surface_.set_text_colour(kWhite);
@@ -148,9 +138,9 @@ void PaintedTable::scoreboard() {
 }
 
 void PaintedTable::print_score_line(const std::string& left, const std::string& right) {
-  surface_.set_text_x(m_.mezza_larghezza - 180);
+  surface_.set_text_x(g_.mezza_larghezza - 180);
   surface_.print_staying(left);
-  surface_.set_text_x(m_.mezza_larghezza + 90);
+  surface_.set_text_x(g_.mezza_larghezza + 90);
   surface_.print(right);
 }
 

@@ -90,6 +90,20 @@ void HeadlessWindow::move(float x, float y) {
   if (!in_box_ && events_ != nullptr) events_->moved(x, y);
 }
 
+void HeadlessWindow::key(Key key) {
+  hold(key, true);
+  hold(key, false);
+}
+
+void HeadlessWindow::hold(Key key, bool down) {
+  if (in_box_ || events_ == nullptr) return;
+  if (down) {
+    events_->key_pressed(key);
+  } else {
+    events_->key_released(key);
+  }
+}
+
 bool HeadlessWindow::choose(EntryId entry) {
   if (in_box_ || events_ == nullptr || !entries_.contains(entry) || !enabled(entry)) return false;
   events_->entry_chosen(entry);

@@ -60,7 +60,17 @@ class HeadlessWindow : public Window {
   /// The texts of the boxes so far.
   std::vector<std::string> boxes;
 
+  /// What was set last.
+  std::string told_now;
+  std::string told_then;
+  std::optional<Area> mark;
+  bool listening = false;  ///< as assistive technology does
+  std::vector<TablePlace> places;
+  int focused = -1;
+
   void press(float x, float y, Button button = Button::left);
+  void key(Key key);  ///< pressed and let go
+  void hold(Key key, bool down);
   void move(float x, float y);
   bool choose(EntryId entry);
   bool click(ControlId control);
@@ -89,6 +99,16 @@ class HeadlessWindow : public Window {
   void show_now(int milliseconds) override { milliseconds_shown_ += milliseconds; }
   bool closing() const override { return closing_; }
   void close() override { closing_ = true; }
+  void set_chronicle(const std::string& now, const std::string& then) override {
+    told_now = now;
+    told_then = then;
+  }
+  void set_mark(const std::optional<Area>& area) override { mark = area; }
+  bool wants_places() const override { return listening; }
+  void set_places(const std::vector<TablePlace>& told, int focus) override {
+    places = told;
+    focused = focus;
+  }
   void set_pointer(PointerShape shape) override { pointer_ = shape; }
   PointerShape pointer() const override { return pointer_; }
   Answer message_box(const std::string& text, Buttons buttons) override;

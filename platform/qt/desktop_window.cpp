@@ -5,10 +5,12 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <chrono>
 #include <thread>
 #include <utility>
 
+#include "qt/accessible_table.h"
 #include "qt/rasteriser.h"
 
 namespace tombrello::qt {
@@ -47,11 +49,20 @@ void DesktopWindow::Frame::closeEvent(QCloseEvent* event) {
 }
 
 DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
-    : table_(new TableWidget(std::move(pictures), relay_)), overlay_(*table_, relay_) {
+    : table_(new TableWidget(std::move(pictures), relay_)),
+      line_(new ChronicleLine(nullptr)),
+      overlay_(*table_, relay_) {
+  make_tables_accessible();
+  auto* whole = new QWidget(&frame_);
+  auto* rows = new QVBoxLayout(whole);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(table_, 1);
+  rows->addWidget(line_);
   frame_.menuBar()->setNativeMenuBar(false);
   frame_.menuBar()->setContextMenuPolicy(Qt::PreventContextMenu);
   frame_.setContextMenuPolicy(Qt::PreventContextMenu);
-  frame_.setCentralWidget(table_);
+  frame_.setCentralWidget(whole);
   frame_.setMinimumSize(400, 300);
   frame_.resize(1000, 780);
   frame_.setWindowIcon(icon_of(icon));
@@ -90,6 +101,14 @@ void DesktopWindow::stop() {
   closing_ = true;
   if (box_ != nullptr) box_->reject();
   frame_.close();
+}
+
+void DesktopWindow::set_chronicle(const std::string& now, const std::string& then) {
+  line_->tell(now, then);
+}
+
+bool DesktopWindow::wants_places() const {
+  return QAccessible::isActive();
 }
 
 void DesktopWindow::set_pointer(PointerShape shape) {

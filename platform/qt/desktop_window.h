@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <string>
 
+#include "qt/chronicle_line.h"
 #include "qt/event_relay.h"
 #include "qt/menus.h"
 #include "qt/overlay.h"
@@ -30,6 +31,12 @@ class DesktopWindow : public Window {
   /// As `close`, and takes down a message box that waits for its answer.
   void stop();
 
+  void set_chronicle(const std::string& now, const std::string& then) override;
+  void set_mark(const std::optional<Area>& area) override { table_->set_mark(area); }
+  bool wants_places() const override;
+  void set_places(const std::vector<TablePlace>& places, int focus) override {
+    table_->set_places(places, focus);
+  }
   void set_pointer(PointerShape shape) override;
   PointerShape pointer() const override { return pointer_; }
   Answer message_box(const std::string& text, Buttons buttons) override;
@@ -57,6 +64,7 @@ class DesktopWindow : public Window {
   }
 
   QMainWindow& frame() { return frame_; }
+  const QWidget& line() const { return *line_; }
   TableWidget& table() { return *table_; }
   WindowEvents& events() { return relay_; }  ///< where parts beside the window report
 
@@ -76,7 +84,8 @@ class DesktopWindow : public Window {
   PointerShape pointer_ = PointerShape::arrow;
   EventRelay relay_;
   Frame frame_{closing_};
-  TableWidget* table_;  ///< belongs to the frame
+  TableWidget* table_;  ///< belongs to the frame, as the line below it does
+  ChronicleLine* line_;
   Menus menus_{*frame_.menuBar(), relay_};
   Overlay overlay_;
   QMessageBox* box_ = nullptr;  ///< while one waits

@@ -7,6 +7,8 @@
 #include <QtMath>
 #include <utility>
 
+#include "qt/accessible_table.h"
+#include "qt/mark_painter.h"
 #include "qt/surface_painter.h"
 
 namespace tombrello::qt {
@@ -15,6 +17,41 @@ namespace {
 // While the window is being dragged to another size, a paint renders so many milliseconds of
 // pictures; those that are left are stretched for the moment and follow in the next paint.
 constexpr int kPatience = 30;
+
+std::optional<Key> key_of(const QKeyEvent& event) {
+  const auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  if (event.modifiers() & others) return std::nullopt;
+  switch (event.key()) {
+    case Qt::Key_Up:
+      return Key::up;
+    case Qt::Key_Down:
+      return Key::down;
+    case Qt::Key_Left:
+      return Key::left;
+    case Qt::Key_Right:
+      return Key::right;
+    case Qt::Key_Tab:
+      return Key::next;
+    case Qt::Key_Backtab:
+      return Key::previous;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return Key::enter;
+    case Qt::Key_Space:
+      return Key::space;
+    case Qt::Key_F1:
+      return Key::help;
+    case Qt::Key_Escape:
+      return Key::escape;
+    default:
+      return std::nullopt;
+  }
+}
+
+// These go on while the key is held.
+bool moves_mark(Key key) {
+  return key != Key::enter && key != Key::space && key != Key::help && key != Key::escape;
+}
 
 Button button_of(Qt::MouseButton button) {
   if (button == Qt::LeftButton) return Button::left;
@@ -46,7 +83,7 @@ TableWidget::TableWidget(PictureSource source, WindowEvents& events)
     : events_(events), pictures_(std::move(source)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
 }
 
 void TableWidget::set_follower(std::function<void(const TableGeometry&)> follower) {
@@ -92,6 +129,30 @@ void TableWidget::show_changes_now() {
   if (!region.isEmpty()) repaint(region);
 }
 
+QRegion TableWidget::mark_region() const {
+  QRegion region;
+  if (!mark_) return region;
+  for (const QRect& part : mark_pixels(*mark_, geometry_)) {
+    region += geometry_.widget_rect(part).adjusted(-1, -1, 1, 1);
+  }
+  return region & rect();
+}
+
+// Only the outline is painted anew, where it was and where it is.
+void TableWidget::set_mark(const std::optional<Area>& area) {
+  QRegion changed = mark_region();
+  mark_ = area;
+  changed += mark_region();
+  if (!changed.isEmpty()) update(changed);
+}
+
+void TableWidget::set_places(const std::vector<TablePlace>& places, int focus) {
+  if (places == places_ && focus == focused_place_) return;
+  const std::vector<TablePlace> before = std::exchange(places_, places);
+  const int focus_before = std::exchange(focused_place_, focus);
+  announce_places(*this, before, focus_before);
+}
+
 void TableWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   use_true_pixels(painter, geometry_.ratio());
@@ -99,6 +160,7 @@ void TableWidget::paintEvent(QPaintEvent* event) {
   const QRegion drafts =
       paint_surface(painter, surface_, geometry_, exposed, pictures_, QDeadlineTimer(kPatience));
   for (const QRect& draft : drafts) update(geometry_.widget_rect(draft));
+  if (mark_) paint_mark(painter, *mark_, geometry_);
   if (stale_sizes_ && drafts.isEmpty()) {
     pictures_.drop_unused();
     stale_sizes_ = false;
@@ -124,6 +186,27 @@ void TableWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 void TableWidget::mouseMoveEvent(QMouseEvent* event) {
   const QPointF place = geometry_.logical(event->position());
   events_.moved(static_cast<float>(place.x()), static_cast<float>(place.y()));
+}
+
+// A key that a field or the opening picture has no use for comes here too: of those only help and
+// escape are the table's.
+void TableWidget::keyPressEvent(QKeyEvent* event) {
+  const std::optional<Key> key = key_of(*event);
+  const bool anywhere = key == Key::help || key == Key::escape;
+  if (!key || (!anywhere && !hasFocus())) return event->ignore();
+  if (!event->isAutoRepeat() || moves_mark(*key)) events_.key_pressed(*key);
+}
+
+void TableWidget::keyReleaseEvent(QKeyEvent* event) {
+  const std::optional<Key> key = key_of(*event);
+  if (!key || event->isAutoRepeat()) return event->ignore();
+  events_.key_released(*key);
+}
+
+// What is held down when the keyboard goes elsewhere is let go there.
+void TableWidget::focusOutEvent(QFocusEvent* event) {
+  events_.key_released(Key::space);
+  QWidget::focusOutEvent(event);
 }
 
 }  // namespace tombrello::qt

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 #include <functional>
+#include <optional>
+#include <vector>
 
 #include "qt/geometry.h"
 #include "qt/picture_cache.h"
@@ -32,16 +34,31 @@ class TableWidget : public QWidget {
   void show_changes();
   void show_changes_now();
 
+  void set_mark(const std::optional<Area>& area);
+  /// The places of the table as they are read out, and the marked one, -1 for none.
+  void set_places(const std::vector<TablePlace>& places, int focus);
+  const std::vector<TablePlace>& places() const { return places_; }
+  int focused_place() const { return focused_place_; }
+  void press_place(int place, Button button) { events_.place_pressed(place, button); }
+  QRect widget_area(const Area& area) const {
+    return geometry_.widget_rect(geometry_.pixels(area));
+  }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool) override { return false; }  // Tab moves the mark
 
  private:
   TableGeometry current_geometry() const;
   QRegion changed_region();
+  QRegion mark_region() const;
 
   WindowEvents& events_;
   Surface surface_;
@@ -50,6 +67,9 @@ class TableWidget : public QWidget {
   std::function<void(const TableGeometry&)> follower_;
   std::function<void()> first_paint_;
   bool stale_sizes_ = false;
+  std::optional<Area> mark_;
+  std::vector<TablePlace> places_;
+  int focused_place_ = -1;
 };
 
 }  // namespace tombrello::qt

@@ -1,6 +1,7 @@
 #include "seam/surface.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace tombrello {
@@ -76,6 +77,27 @@ void Surface::filled_box(float x1, float y1, float x2, float y2, Colour colour) 
   const Area area = ordered(x1, y1, x2, y2);
   drop_covered_by(area);
   add(BoxItem{area, colour, true});
+}
+
+// The box goes below the lowest spared picture that it meets. What it hides goes below it.
+void Surface::filled_box_under(const Area& area, Colour colour,
+                               const std::function<bool(const PictureItem&)>& spared) {
+  const auto is_spared = [&](const Item& item) {
+    const auto* picture = std::get_if<PictureItem>(&item);
+    return picture != nullptr && picture->area.meets(area) && spared(*picture);
+  };
+  const auto is_hidden = [&](const Item& item) {
+    if (const auto* box = std::get_if<BoxItem>(&item)) return box->area.meets(area);
+    if (const auto* text = std::get_if<TextItem>(&item)) return area.contains(text->x, text->y);
+    const auto* picture = std::get_if<PictureItem>(&item);
+    return picture != nullptr && picture->area.meets(area) && !spared(*picture);
+  };
+  const auto lowest = std::find_if(items_.begin(), items_.end(), is_spared);
+  const auto lowest_over = std::stable_partition(lowest, items_.end(), is_hidden);
+  std::vector<Item> over(lowest_over, items_.end());
+  items_.erase(lowest_over, items_.end());
+  filled_box(area.left, area.top, area.right, area.bottom, colour);
+  std::move(over.begin(), over.end(), std::back_inserter(items_));
 }
 
 void Surface::open_box(float x1, float y1, float x2, float y2, Colour colour) {

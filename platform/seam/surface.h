@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -87,6 +88,9 @@ class Surface {
 
   /// The corners may come in any order. A text that starts inside the box goes whole.
   void filled_box(float x1, float y1, float x2, float y2, Colour colour);
+  /// A filled box that goes under the pictures that `spared` names, and hides all else there.
+  void filled_box_under(const Area& area, Colour colour,
+                        const std::function<bool(const PictureItem&)>& spared);
   void open_box(float x1, float y1, float x2, float y2, Colour colour);
 
   /// A negative width mirrors the picture and lays it to the left of x, a negative height

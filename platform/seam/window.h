@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "seam/colour.h"
 #include "seam/picture.h"
@@ -18,6 +20,21 @@ using EntryId = int;
 using ControlId = int;
 inline constexpr EntryId kMenuBar = 0;
 
+/// The keys that the table takes while it has the keyboard. Held down, those that move go on, and
+/// the others are told once.
+enum class Key { up, down, left, right, next, previous, enter, space, help, escape };
+
+/// A place of the table as it is read out, in the order in which places are met. Nothing that
+/// the player can't see is told in it.
+struct TablePlace {
+  std::string name;  ///< UTF-8, one line
+  Area area;
+  bool can_press = false;   ///< a left press does something there now
+  bool can_select = false;  ///< a right press does
+  bool selected = false;
+  bool operator==(const TablePlace&) const = default;
+};
+
 /// What the window tells the program, always from inside `Window::serve_events`
 /// or `Window::message_box`, nested in whatever wait the game is in. Handlers post and return;
 /// they never throw, and wait for nothing but the answer to a box of theirs.
@@ -34,6 +51,10 @@ class WindowEvents {
   virtual void field_changed(ControlId field, const std::string& text) = 0;
   virtual void field_confirmed(ControlId field) = 0;  ///< Enter in a text field
   virtual void timer_ticked() = 0;
+  virtual void key_pressed(Key key) = 0;
+  virtual void key_released(Key key) = 0;  ///< or the window has lost the keyboard meanwhile
+  /// Somebody acts on a place by its number in the last `set_places`, from 0.
+  virtual void place_pressed(int place, Button button) = 0;
 };
 
 /// The program's only window, the table in its middle: 4 : 3, the largest that fits.
@@ -55,6 +76,16 @@ class Window {
   /// The frame was closed, or the process was asked to end. Stays true.
   virtual bool closing() const = 0;
   virtual void close() = 0;
+
+  /// The line below the table, in the desktop's own font: left what can be done now, right what
+  /// the others did. Where it is too narrow the beginning of the right part goes first.
+  virtual void set_chronicle(const std::string& now, const std::string& then) = 0;
+  /// A thin outline over the table, no part of the surface; none for nothing.
+  virtual void set_mark(const std::optional<Area>& area) = 0;
+  /// True once assistive technology listens: until then nobody needs `set_places`.
+  virtual bool wants_places() const = 0;
+  /// All places of the table; `focus` is the marked one, -1 for none.
+  virtual void set_places(const std::vector<TablePlace>& places, int focus) = 0;
 
   virtual void set_pointer(PointerShape shape) = 0;
   virtual PointerShape pointer() const = 0;

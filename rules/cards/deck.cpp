@@ -42,6 +42,7 @@ void Deck::daicarte() {
   turn_up_first_card();
   out_.table.pile_shows(s_.pozzo[0]);
   out_.table.stock_shows(back_number(s_.mazzo[kFirstStock]));
+  out_.events.hand_dealt();
   out_.wait.ritardo(0.01F);
 }
 
@@ -67,6 +68,7 @@ void Deck::turn_up_first_card() {
   s_.n_pozzo = 1;
   s_.pozzo[0] = s_.mazzo[kFirstUp];
   s_.tallone = kFirstStock;
+  s_.stock_empty = false;
 }
 
 void Deck::Rimescola() {
@@ -79,6 +81,7 @@ void Deck::Rimescola() {
   random_.seed_from_clock();
   shuffle_into(kFirstUp, kPack);
   turn_up_first_card();
+  out_.events.reshuffled();
   out_.wait.ritardo(1);
   out_.table.reshuffle_ends();
   out_.table.pile_shows(s_.pozzo[0]);
@@ -87,8 +90,10 @@ void Deck::Rimescola() {
 }
 
 void Deck::take_from_pile(int seat) {
-  add_to_hand(seat, s_.pozzo[s_.n_pozzo - 1]);
+  const int card = top_of_pile();
+  add_to_hand(seat, static_cast<std::int16_t>(card));
   --s_.n_pozzo;
+  out_.events.drew(seat, card);
   if (s_.n_pozzo == 0) {
     out_.table.pile_empty();
   } else {
@@ -99,8 +104,10 @@ void Deck::take_from_pile(int seat) {
 void Deck::take_from_stock(int seat) {
   const std::int16_t card = s_.mazzo[s_.tallone];
   add_to_hand(seat, card);
+  out_.events.drew(seat, 0);
   if (seat != 1) out_.table.card_landed(seat, card);
   if (s_.tallone == kCards) {  // it stays there: the discard of this turn brings the reshuffle
+    s_.stock_empty = true;
     out_.table.stock_empty();
     return;
   }

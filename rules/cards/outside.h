@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cards/events.h"
 #include "cards/state.h"
 
 namespace tombrello {
@@ -73,7 +74,8 @@ class Shell {
   virtual void enable_names(bool enabled) = 0;
   virtual bool replay_checked() = 0;
   virtual void uncheck_replay() = 0;
-  virtual void deal_begins() = 0;                     ///< a names dialog left open closes
+  virtual void dealer_card_turned() = 0;              ///< in the draw for dealer
+  virtual void deal_begins() = 0;                     ///< the table is cleared for a hand
   virtual void message(const std::string& text) = 0;  ///< returns when it has been answered
 };
 
@@ -82,6 +84,7 @@ struct Outside {
   Wait& wait;
   Sound& sound;
   Shell& shell;
+  Events& events;
 };
 
 }  // namespace tombrello

@@ -41,6 +41,18 @@ class PresenceString {
   std::array<char, kPack> marks_;
 };
 
+/// What stands on the table. The match sets it; nobody infers it.
+enum class Phase : std::uint8_t {
+  opening,     ///< the opening picture
+  felt,        ///< nothing, on the way from one screen to the next
+  draw,        ///< the draw for dealer
+  deal,        ///< cards are being dealt
+  hand,        ///< a hand is played
+  open_hands,  ///< somebody has gone out; the cards left lie open
+  count,       ///< the scoreboard, until "Continua"
+  match_over,  ///< the scoreboard, for good
+};
+
 template <class Row>
 using BySeat = std::array<Row, kSeats + 1>;
 
@@ -50,9 +62,10 @@ struct State {
   // Deck, stock and pile
   std::array<std::int16_t, kCards + 1> mazzo{};      ///< 1..52 dealt, 53 turned up, 54.. the stock
   std::array<std::int16_t, kCards + 1> mazzo_tmp{};  ///< source of a shuffle; 0 is taken
-  std::int16_t tallone = 0;                          ///< slot 54..104 of the next stock card
-  std::array<std::int16_t, kPack> pozzo{};           ///< the pile, bottom first
-  std::int16_t n_pozzo = 0;                          ///< 0..52
+  std::int16_t tallone = 0;  ///< slot 54..104 of the next stock card; stays at 104 after it
+  bool stock_empty = false;  ///< the last stock card has been taken
+  std::array<std::int16_t, kPack> pozzo{};  ///< the pile, bottom first
+  std::int16_t n_pozzo = 0;                 ///< 0..52
 
   // Hands and table
   BySeat<std::array<std::int16_t, kHandSlots + 1>> mano{};
@@ -60,11 +73,14 @@ struct State {
   BySeat<std::array<std::int16_t, kListPositions + 1>> calate{};  ///< melds, each closed by 1000
   BySeat<std::uint8_t> n_calate{};                                ///< 0..30, sentinels included
 
+  Phase phase = Phase::opening;
+
   // Turn and players
   std::uint8_t cartaro = 0;   ///< dealer 1..4; 0 without a deal, and for a tie of the draw
   std::uint8_t di_turno = 0;  ///< seat on turn
   std::uint8_t compagno = 0;  ///< partner of the computer seat on turn
   bool ha_pescato = false;    ///< the seat on turn has drawn
+  bool holds_copy = false;    ///< the last card of the hand on turn is a copy of the pile's top
   std::uint8_t azione = 0;    ///< code posted by the pointer handler, 0 none
   bool calata_ok = false;     ///< what the judge of melds said last
   std::array<std::string, kSeats> nomi;  ///< of seat s at s - 1, UTF-8

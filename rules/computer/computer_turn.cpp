@@ -69,11 +69,13 @@ void Computer::try_top_of_pile(int seat) {
   s_.ha_pescato = false;
   ++s_.n_mano[seat];
   s_.mano[seat][s_.n_mano[seat]] = static_cast<std::int16_t>(deck_.top_of_pile());
+  s_.holds_copy = true;
 }
 
 // The copy is dropped, and the turn's draw comes from the stock.
 void Computer::draw_instead(int seat) {
   --s_.n_mano[seat];
+  s_.holds_copy = false;
   pesco_carta(seat, 2);
   s_.ha_pescato = true;
 }

@@ -35,6 +35,7 @@ void Computer::scarto_carta(int seat) {
   out_.sound.suona();
   deck_.add_to_pile(card);
   out_.table.pile_shows(card);
+  out_.events.discarded(seat, card);
   card = 0;
 }
 

@@ -86,6 +86,7 @@ void Computer::lay_off(Target& target, int slot) {
   const int owner = target.owner;
   if (slot == s_.n_mano[seat] && !s_.ha_pescato) {
     --s_.n_mano[seat];
+    s_.holds_copy = false;
     pesco_carta(seat, 1);
     s_.ha_pescato = true;
     tidy_hand(seat);
@@ -94,6 +95,7 @@ void Computer::lay_off(Target& target, int slot) {
   s_.n_calate[owner] = static_cast<std::uint8_t>(s_.n_calate[owner] + 2);
   s_.calate[owner][s_.n_calate[owner] - 1] = s_.mano[seat][slot];
   s_.calate[owner][s_.n_calate[owner]] = kSentinel;
+  out_.events.added(seat, owner, s_.mano[seat][slot]);
   s_.pos_attacco = static_cast<std::int16_t>(target.last);
   const bool scala = melds_.is_scala(owner, target.last);
   if (scala) {

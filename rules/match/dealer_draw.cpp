@@ -22,10 +22,11 @@ void DealerDraw::Scelta_Cartaro() {
 }
 
 void DealerDraw::find_places() {
-  const float middle_x = m_.mezza_larghezza - m_.larghezza_carta / 2;
-  const float middle_y = m_.mezza_altezza - m_.altezza_carta / 2;
-  s_.x_estrazione = {0, middle_x, 20, middle_x, 2 * m_.mezza_larghezza - m_.larghezza_carta - 20};
-  s_.y_estrazione = {0, 2 * m_.mezza_altezza - m_.altezza_carta - 20, middle_y, 20, middle_y};
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const Place place = g_.drawn_for_dealer(seat);
+    s_.x_estrazione[seat] = place.left;
+    s_.y_estrazione[seat] = place.top;
+  }
 }
 
 void DealerDraw::lay_out_screen() {
@@ -68,8 +69,10 @@ bool DealerDraw::wait_for_card() {
 
 void DealerDraw::draw_card() {
   out_.shell.enable_names(false);
+  out_.shell.dealer_card_turned();
   out_.sound.suona();
   out_.table.dealer_card(s_.di_turno, s_.carta_scelta);
+  out_.events.turned_for_dealer(s_.di_turno, s_.carta_scelta);
   s_.valori_estratti[s_.di_turno] = static_cast<std::uint8_t>(ValCarta(s_.carta_scelta));
 }
 

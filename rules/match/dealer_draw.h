@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cards/deck.h"
-#include "cards/metrics.h"
+#include "cards/geometry.h"
 #include "cards/outside.h"
 #include "cards/state.h"
 
@@ -10,8 +10,8 @@ namespace tombrello {
 /// The draw for dealer: the person turns up a card for each seat; the highest rank deals.
 class DealerDraw {
  public:
-  DealerDraw(State& state, const Metrics& metrics, Deck& deck, Outside outside)
-      : s_(state), m_(metrics), deck_(deck), out_(outside) {}
+  DealerDraw(State& state, const Geometry& geometry, Deck& deck, Outside outside)
+      : s_(state), g_(geometry), deck_(deck), out_(outside) {}
 
   /// Runs on the deck just shuffled; leaves the dealer in `cartaro` and the seat after it in
   /// `di_turno`.
@@ -29,7 +29,7 @@ class DealerDraw {
   void announce_tie();
 
   State& s_;
-  const Metrics& m_;
+  const Geometry& g_;
   Deck& deck_;
   Outside out_;
 };

@@ -3,6 +3,7 @@
 namespace tombrello {
 
 void Match::Main() {
+  s_.phase = Phase::felt;
   s_.ritardo_base = 0.5F;
   out_.shell.enable_names(true);
   out_.shell.enable_continue(false);
@@ -21,6 +22,7 @@ void Match::prepare_match() {
   s_.punti_mano = {};
   s_.punti_totali = {};
   out_.table.clear();
+  s_.phase = Phase::draw;
   deck_.Mescola();
   draw_.Scelta_Cartaro();
   out_.shell.enable_replay(false);
@@ -30,7 +32,9 @@ void Match::start_hand() {
   out_.wait.ritardo(0.01F);
   out_.shell.deal_begins();
   Gioco_Imposta();
+  s_.phase = Phase::deal;
   deck_.daicarte();
+  s_.phase = Phase::hand;
 }
 
 void Match::Gioco_Imposta() {
@@ -64,8 +68,11 @@ void Match::pass_turn() {
 
 void Match::end_hand() {
   out_.table.scopro_carte();
+  s_.phase = Phase::open_hands;
+  out_.events.went_out(s_.di_turno);
   out_.wait.ritardo(0.3F);
   scoring_.risultato();
+  s_.phase = is_over() ? Phase::match_over : Phase::count;
   out_.shell.enable_continue(!is_over());
 }
 
@@ -81,7 +88,9 @@ void Match::wait_for_continue() {
 
 // A replayed hand is the only one of its run that isn't shuffled.
 void Match::next_hand() {
+  s_.phase = Phase::felt;
   out_.shell.deal_begins();
+  out_.shell.enable_continue(false);
   if (out_.shell.replay_checked()) {
     out_.shell.uncheck_replay();
     out_.shell.enable_replay(false);

@@ -6,14 +6,14 @@ namespace tombrello {
 
 /// The whole rules engine, put together on one state. Engines don't know of one another.
 struct Rules {
-  Rules(State& state, const Metrics& metrics, Clock& clock, Outside outside)
+  Rules(State& state, const Geometry& geometry, Clock& clock, Outside outside)
       : random(clock),
         deck(state, random, outside),
         hands(state),
-        melds(state, metrics),
+        melds(state, geometry),
         computer(state, random, deck, hands, melds, outside),
-        person(state, metrics, deck, hands, melds, outside),
-        draw(state, metrics, deck, outside),
+        person(state, geometry, deck, hands, melds, outside),
+        draw(state, geometry, deck, outside),
         scoring(state, outside),
         match(state, deck, draw, person, computer, scoring, outside) {}
   Rules(const Rules&) = delete;

@@ -49,7 +49,10 @@ int Scoring::count_team(int team, int seat_out) const {
       cards = k - first;
       first = k + 1;
     }
-    if (cards == 13 && seat == partner_of(seat_out)) score *= 2;
+    if (cards == 13 && seat == partner_of(seat_out)) {
+      score *= 2;
+      out_.events.counted_double(team);
+    }
     for (int k = 1; k <= s_.n_mano[seat]; ++k) score -= s_.punti_carta[ValCarta(s_.mano[seat][k])];
   }
   return score;

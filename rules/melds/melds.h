@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cards/metrics.h"
+#include "cards/geometry.h"
 #include "cards/state.h"
 
 namespace tombrello {
@@ -10,7 +10,7 @@ namespace tombrello {
 /// tris or poker.
 class Melds {
  public:
-  Melds(State& state, const Metrics& metrics) : s_(state), m_(metrics) {}
+  Melds(State& state, const Geometry& geometry) : s_(state), g_(geometry) {}
 
   /// Judges the proposal that stands as the last meld of the list of seat 1 or 3; `calata_ok`
   /// is the verdict. A single card goes to the meld whose strip x (logical units) falls in.
@@ -42,7 +42,7 @@ class Melds {
   void insert_before_last(int seat);
 
   State& s_;
-  const Metrics& m_;
+  const Geometry& g_;
 };
 
 /// True if a card of rank `rank` goes on an end of a scala running from `first` to `last`.

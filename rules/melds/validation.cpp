@@ -13,27 +13,11 @@ void Melds::controllo_calata(int seat, float x) {
   join_neighbours(seat);
 }
 
-// A meld of m cards owns m + 2 steps here, one more than it takes in the picture, so that the
-// strips lie further right than the melds, by a step for each meld before them.
 bool Melds::find_target(int seat, float x) {
-  const float step = m_.passo_striscia();
-  float left = m_.striscia_x();
-  float right = left;
-  const int n = s_.n_calate[seat];
-  for (int k = 1; k <= n; ++k) {
-    if (s_.calate[seat][k] != kSentinel) {
-      right += step;
-      continue;
-    }
-    right += 2 * step;
-    if (k == n) right += 3 * step;
-    if (left < x && x < right) {
-      s_.pos_attacco = static_cast<std::int16_t>(k < n ? k - 1 : k - 3);
-      return true;
-    }
-    left = right;
-  }
-  return false;
+  const auto strip = g_.click_strip_at(s_.calate[seat], s_.n_calate[seat], x);
+  if (strip.last_card == 0) return false;
+  s_.pos_attacco = static_cast<std::int16_t>(strip.last_card);
+  return true;
 }
 
 // Answers whether the whole list is to be judged afterwards.

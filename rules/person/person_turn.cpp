@@ -1,7 +1,5 @@
 #include "person/person_turn.h"
 
-#include <algorithm>
-
 namespace tombrello {
 
 void PersonTurn::Gioco1() {
@@ -57,10 +55,8 @@ void PersonTurn::draw_from_stock() {
   s_.ha_pescato = true;
 }
 
-// Every slot owns a strip of the same width, the last one too, although its card shows wider.
 void PersonTurn::find_slot_cliccato() {
-  const int slot = static_cast<int>((s_.x_click - m_.ventaglio_x()) / m_.passo_carta()) + 1;
-  s_.slot_cliccato = static_cast<std::uint8_t>(std::clamp(slot, 1, int{s_.n_mano[1]}));
+  s_.slot_cliccato = static_cast<std::uint8_t>(g_.slot_at(s_.x_click, s_.n_mano[1]));
 }
 
 void PersonTurn::select_or_unselect() {
@@ -80,21 +76,59 @@ bool PersonTurn::lay_on(int side) {
   collect_selected(side);
   if (s_.n_selezionate == 0) return false;
   if (s_.n_selezionate == 2 || (s_.n_calate[side] == 0 && s_.n_selezionate < 3)) {
+    tell_refusal(s_.n_selezionate == 2 ? Refusal::two_cards : Refusal::no_meld_yet);
     out_.table.ridisegno_carte();
     return false;
   }
   if (!append_proposal(side)) {
+    tell_refusal(Refusal::list_full);
     refuse();
     return false;
   }
+  const int target = g_.click_strip_at(s_.calate[side], s_.n_calate[side], s_.x_click).last_card;
   melds_.controllo_calata(side, s_.x_click);
   if (s_.calata_ok) {
     accept(side);
     return s_.n_mano[1] == 0;
   }
   take_back_proposal(side);
+  if (s_.n_selezionate > 1) {
+    tell_refusal(Refusal::not_a_meld);
+  } else {
+    tell_refusal(target == 0 ? Refusal::beside_melds : Refusal::does_not_fit,
+                 meld_at(side, target));
+  }
   refuse();
   return false;
+}
+
+std::array<std::int16_t, kHandSlots> PersonTurn::selected_cards() const {
+  std::array<std::int16_t, kHandSlots> cards{};
+  for (int k = 1; k <= s_.n_selezionate; ++k) {
+    cards[static_cast<std::size_t>(k - 1)] = s_.mano[1][s_.slot_selezionati[k]];
+  }
+  return cards;
+}
+
+Cards PersonTurn::meld_at(int side, int last) const {
+  if (last == 0) return {};
+  const int first = melds_.first_of_meld(side, last);
+  return Cards(s_.calate[side])
+      .subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(last - first + 1));
+}
+
+void PersonTurn::tell_refusal(Refusal why, Cards meld) {
+  const auto cards = selected_cards();
+  out_.events.refused(why, Cards(cards).first(static_cast<std::size_t>(s_.n_selezionate)), meld);
+}
+
+void PersonTurn::tell_acceptance(int side) {
+  const auto cards = selected_cards();
+  if (s_.n_selezionate == 1) {
+    out_.events.added(1, side, cards[0]);
+  } else {
+    out_.events.laid(1, side, Cards(cards).first(static_cast<std::size_t>(s_.n_selezionate)));
+  }
 }
 
 void PersonTurn::take_back_proposal(int side) {
@@ -134,6 +168,7 @@ void PersonTurn::refuse() {
 
 void PersonTurn::accept(int side) {
   melds_.ord_crescente_calata(side);
+  tell_acceptance(side);
   for (int k = 1; k <= s_.n_selezionate; ++k) s_.mano[1][s_.slot_selezionati[k]] = 0;
   hands_.raggruppo_carte(1);
   s_.n_mano[1] = static_cast<std::uint8_t>(s_.n_mano[1] - s_.n_selezionate);
@@ -150,6 +185,7 @@ void PersonTurn::accept(int side) {
 bool PersonTurn::discard() {
   if (!s_.ha_pescato) return false;
   if (lower_selected()) {
+    out_.events.refused(Refusal::lowered_first, {}, {});
     out_.table.ridisegno_carte();
     return false;
   }
@@ -157,6 +193,7 @@ bool PersonTurn::discard() {
   auto& card = s_.mano[1][s_.slot_cliccato];
   out_.table.pile_shows(card);
   deck_.add_to_pile(card);
+  out_.events.discarded(1, card);
   card = 0;
   hands_.raggruppo_carte(1);
   --s_.n_mano[1];

@@ -116,8 +116,8 @@ class Game {
     State copy = s();
     for (auto& card : copy.mano[1]) card = static_cast<std::int16_t>(card % kSelected);
     copy.azione = kNoAction;
-    player_->act(copy, program.metrics());
-    const Metrics& m = program.metrics();
+    player_->act(copy, program.geometry());
+    const Geometry& m = program.geometry();
     const float x = std::clamp(copy.x_click, m.striscia_x() + 1, m.striscia_x() + 300);
     const float fan_y = 2 * m.mezza_altezza - 30;
     switch (copy.azione) {

@@ -184,30 +184,33 @@ TEST(NamesDialog, ConfirmedInADealOrWhileTheOpenHandsAreShownWhatStoodStands) {
   EXPECT_GT(stood[1], 39U);
 }
 
-TEST(Repaint, TheStockShowsUnlessItsLastCardWasTaken) {
+TEST(Repaint, ShowsWhatTheTableShowed) {
   State s;
-  Metrics m;
+  Geometry g;
   HeadlessTimer timer;
   HeadlessWindow window(timer);
-  PaintedTable table(s, m, window);
+  PaintedTable table(s, g, window);
   for (int k = 1; k <= kCards; ++k) s.mazzo[k] = static_cast<std::int16_t>(k);
+  s.phase = Phase::hand;
   s.tallone = kCards;
   s.n_pozzo = 51;
   s.pozzo.fill(9);
-  s.ha_pescato = true;
   s.di_turno = 2;
-  const auto stock_stands = [&](std::initializer_list<int> hands) {
-    std::copy(hands.begin(), hands.end(), s.n_mano.begin() + 1);
-    for (auto& hand : s.mano) hand.fill(5);
-    table.repaint_hand();
-    return has(seen(window.surface(), Kind::pictures), "dorsov1 400,252.875 460,347.125");
+  s.n_mano = {0, 0, 5, 0, 0};
+  const auto pictures = [&] {
+    table.repaint();
+    return seen(window.surface(), Kind::pictures);
   };
-  EXPECT_FALSE(stock_stands({13, 14, 13, 13})) << "the last card was drawn";
-  EXPECT_TRUE(stock_stands({13, 13, 13, 13})) << "the pile was taken, and a card discarded";
-  s.n_calate[2] = 4;
-  s.calate[2] = {0, 1, 2, 3, kSentinel};
-  EXPECT_FALSE(stock_stands({13, 11, 13, 13}));
-  EXPECT_TRUE(stock_stands({13, 10, 13, 13}));
+  const std::string stock = "dorsov1 400,252.875 460,347.125";
+  const std::string fifth_back = "dorsoo0 20,230";
+  EXPECT_TRUE(has(pictures(), stock)) << "the last card lies there";
+  EXPECT_TRUE(has(pictures(), fifth_back));
+  s.holds_copy = true;
+  EXPECT_FALSE(has(pictures(), fifth_back)) << "the pile's top is weighed, not held";
+  s.stock_empty = true;
+  EXPECT_FALSE(has(pictures(), stock)) << "the last card was drawn";
+  s.phase = Phase::felt;
+  EXPECT_TRUE(pictures().empty()) << "after \"Continua\", before the deal";
 }
 
 }  // namespace

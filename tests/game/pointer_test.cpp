@@ -52,19 +52,21 @@ class PointerTest : public testing::Test {
   Lines items() { return seen(window_.surface()); }
 
   State s_;
-  Metrics m_;
+  Geometry m_;
   HeadlessTimer timer_;
   HeadlessWindow window_{timer_};
   MemoryArchive archive_;
   Settings settings_{s_, archive_};
   Panels panels_{window_};
-  NamesDialog names_{s_, window_, settings_};
-  Pointer pointer_{s_, m_, window_, panels_, names_};
+  PaintedTable table_{s_, m_, window_};
+  NamesDialog names_{s_, window_, settings_, table_};
+  Chronicle chronicle_{s_, window_};
+  Pointer pointer_{s_, m_, window_, panels_, names_, chronicle_};
 };
 
 TEST_F(PointerTest, BeforeTheDrawPileAndStockAreSplitInTheMiddle) {
   for (const float scale : {1.F, 0.8F}) {
-    m_ = Metrics::at_scale(scale);
+    m_ = Geometry::at_scale(scale);
     const float top = m_.tavolo_y();
     const float bottom = 300 + m_.altezza_carta / 2;
     expect_zone({400 - m_.larghezza_carta, top, 400, bottom},
@@ -72,7 +74,7 @@ TEST_F(PointerTest, BeforeTheDrawPileAndStockAreSplitInTheMiddle) {
     expect_zone({400, top, 400 + m_.larghezza_carta, bottom},
                 [&](float x, float y) { return left(x, y) == kDrawStock; });
   }
-  m_ = Metrics::at_scale(1);
+  m_ = Geometry::at_scale(1);
   EXPECT_EQ(left(400, 300), kNoAction) << "the middle belongs to neither";
   EXPECT_EQ(s_.x_click, 400) << "and goes on to the meld bands";
   EXPECT_EQ(post(Button::other, 370, 300), kDrawPile) << "any button but the right one";

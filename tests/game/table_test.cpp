@@ -28,7 +28,7 @@ class TableTest : public testing::Test {
   Lines texts() { return seen(window_.surface(), Kind::texts); }
 
   State s_;
-  Metrics m_;
+  Geometry m_;
   HeadlessTimer timer_;
   HeadlessWindow window_{timer_};
   PaintedTable table_{s_, m_, window_};
@@ -145,7 +145,6 @@ TEST_F(TableTest, DealtDrawnAndLandingCards) {
   table_.card_dealt(3, 13, 52);
   table_.card_dealt(4, 13, 52);
   table_.card_drawn(104);
-  table_.card_landed(1, 1);
   for (const int seat : {2, 3, 4}) table_.card_landed(seat, 60);
   EXPECT_EQ(pictures(), (Lines{"carta1 490,485.75 550,580", "dorsoo1 20,390 114.25,450",
                                "dorsov0 490,20 550,114.25", "dorsoo0 685.75,390 780,450",
@@ -210,7 +209,7 @@ TEST_F(TableTest, NamesShowWhoIsOnTurn) {
 }
 
 TEST_F(TableTest, EverythingFollowsTheScaleButTheAbsolutePlaces) {
-  m_ = Metrics::at_scale(0.8F);
+  m_ = Geometry::at_scale(0.8F);
   hand(1, {1001});
   hand(2, {5});
   hand(3, {6});

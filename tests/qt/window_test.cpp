@@ -32,11 +32,15 @@ struct Listener : WindowEvents {
   void control_key_pressed(ControlId control) override { keyed.push_back(control); }
   void field_changed(ControlId, const std::string& text) override { field = text; }
   void field_confirmed(ControlId) override { ++confirmed; }
+  void key_pressed(Key key) override { keys.push_back(key); }
+  void key_released(Key) override {}
+  void place_pressed(int, Button) override {}
   void timer_ticked() override { ++ticks; }
 
   std::vector<std::array<float, 3>> presses;
   std::vector<int> chosen, clicked, keyed;
   std::string field;
+  std::vector<Key> keys;
   int moves = 0, confirmed = 0, ticks = 0;
 };
 

@@ -86,11 +86,11 @@ struct Deal {
   void discard(int slot) { post(kDiscard, x_of_slot(slot)); }
 
   State s;
-  Metrics m;
+  Geometry m;
   CountingClock clock;
   RecordingOutside out;
   Log& log = out.log;
-  Rules rules{s, m, clock, {out, out, out, out}};
+  Rules rules{s, m, clock, {out, out, out, out, out}};
 };
 
 /// The lines of a log that begin with one of some words, in order.

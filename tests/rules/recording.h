@@ -25,7 +25,7 @@ struct NothingMoreToPost {};
 
 /// The whole outside: logs every call. Each pass of the wait carries out the next action of a
 /// queue; a pause may have an action too.
-class RecordingOutside : public Table, public Wait, public Sound, public Shell {
+class RecordingOutside : public Table, public Wait, public Sound, public Shell, public Events {
  public:
   void clear() override { add("clear"); }
   void default_pointer() override { add("default_pointer"); }
@@ -83,16 +83,47 @@ class RecordingOutside : public Table, public Wait, public Sound, public Shell {
     replay = false;
     add("uncheck_replay");
   }
+  void dealer_card_turned() override {}
   void deal_begins() override { add("deal_begins"); }
   void message(const std::string& text) override { add("message", text); }
 
+  void turned_for_dealer(int seat, int card) override {
+    told.push_back(number(seat) + " turned " + name_of(card));
+  }
+  void hand_dealt() override { told.emplace_back("dealt"); }
+  void drew(int seat, int card) override {
+    told.push_back(number(seat) + " drew " + (card == 0 ? "stock" : name_of(card)));
+  }
+  void laid(int seat, int side, Cards cards) override {
+    told.push_back(number(seat) + " laid" + names_of(cards) + " at " + number(side));
+  }
+  void added(int seat, int side, int card) override {
+    told.push_back(number(seat) + " added " + name_of(card) + " at " + number(side));
+  }
+  void discarded(int seat, int card) override {
+    told.push_back(number(seat) + " discarded " + name_of(card));
+  }
+  void reshuffled() override { told.emplace_back("reshuffled"); }
+  void refused(Refusal why, Cards cards, Cards meld) override {
+    told.push_back("refused " + number(static_cast<int>(why)) + names_of(cards) +
+                   (meld.empty() ? "" : " by") + names_of(meld));
+  }
+  void went_out(int seat) override { told.push_back(number(seat) + " went out"); }
+  void counted_double(int team) override { told.push_back("double " + number(team)); }
+
   Log log;
+  Log told;  // the events
   bool replay = false;
   std::deque<std::function<void()>> actions;
   std::function<void()> otherwise;  // once the queue is empty
   std::function<void()> in_pause;
 
  private:
+  static std::string names_of(Cards cards) {
+    std::string names;
+    for (const int card : cards) names += " " + name_of(card);
+    return names;
+  }
   void add(const char* what) { log.emplace_back(what); }
   void add(const char* what, const std::string& which) { log.push_back(what + (" " + which)); }
 };

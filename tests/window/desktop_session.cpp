@@ -224,11 +224,12 @@ void DesktopSession::find_size() {
     if (line.starts_with("HEIGHT=")) height_ = std::stoi(line.substr(7));
   }
   if (view.has("bar")) bar_ = view.number("bar");
+  if (view.has("line")) line_ = view.number("line");
 }
 
 DesktopSession::Place DesktopSession::place_of(float x, float y) const {
   const double wide = width_;
-  const double high = height_ - bar_;
+  const double high = height_ - bar_ - line_;
   const double scale = std::min(wide / 800, high / 600);
   return {static_cast<int>(std::lround((wide - 800 * scale) / 2 + x * scale)),
           bar_ + static_cast<int>(std::lround((high - 600 * scale) / 2 + y * scale))};

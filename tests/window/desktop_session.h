@@ -125,7 +125,8 @@ class DesktopSession : public ::testing::Test {
   std::size_t read_ = 0;
   int width_ = 0;
   int height_ = 0;
-  int bar_ = 20;
+  int bar_ = 20;   // the menu bar above the table
+  int line_ = 24;  // the chronicle line below it
 };
 
 }  // namespace tombrello

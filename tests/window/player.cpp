@@ -40,7 +40,8 @@ unsigned long find_clock(const std::function<bool(const Fortune&)>& pleases) {
     NoWait wait;
     QuietSound sound;
     QuietShell shell;
-    Deck deck(state, random, {table, wait, sound, shell});
+    QuietEvents events;
+    Deck deck(state, random, {table, wait, sound, shell, events});
     deck.Mescola();
     Fortune fortune{{state.mazzo.begin(), state.mazzo.end()}, {}, 0};
     deck.Mescola();

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -148,6 +149,8 @@ void add_screen(Line& line) {
     if (const auto* frame = qobject_cast<const QMainWindow*>(widget)) {
       line.add("width", frame->width()).add("height", frame->height());
       line.add("bar", frame->centralWidget()->y()).add("minimised", frame->isMinimized());
+      const auto* chronicle = frame->findChild<QLabel*>("chronicle");
+      line.add("line", chronicle->height()).add("chronicle", chronicle->text().toStdString());
       line.add("ready", frame->isMaximized() && frame->isActiveWindow());
       add_actions(line, *frame->findChild<QMenuBar*>());
       line.add("checks", checks(*frame->findChild<QMenuBar*>()));

@@ -35,7 +35,8 @@ wait_for() {
 # At a place of the table, in its own units, with a button of the mouse or none.
 point() {
   local width height bar
-  width=$(told width) height=$(told height) bar=$(told bar)
+  width=$(told width) bar=$(told bar)
+  height=$(($(told height) - $(told line)))
   read -r x y < <(awk -v w="$width" -v h="$((height - bar))" -v b="$bar" -v x="$1" -v y="$2" \
     'BEGIN { s = w / 800 < h / 600 ? w / 800 : h / 600
              print int((w - 800 * s) / 2 + x * s), int(b + (h - 600 * s) / 2 + y * s) }')

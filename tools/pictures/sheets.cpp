@@ -87,11 +87,12 @@ QImage table_sheet(int width, int height) {
   state.di_turno = 1;
   HeadlessTimer timer;
   HeadlessWindow window(timer);
-  const Metrics metrics;
-  PaintedTable table(state, metrics, window);
+  const Geometry geometry;
+  PaintedTable table(state, geometry, window);
   window.surface().set_background(tombrello::kFelt);
   window.surface().set_font_name("Arial");
-  table.repaint_hand();
+  state.phase = Phase::hand;
+  table.repaint();
 
   QImage sheet(width, height, QImage::Format_RGB32);
   QPainter painter(&sheet);

@@ -54,10 +54,25 @@ class QuietShell : public Shell {
   void enable_names(bool) override {}
   bool replay_checked() override { return replay; }
   void uncheck_replay() override { replay = false; }
+  void dealer_card_turned() override {}
   void deal_begins() override {}
   void message(const std::string&) override {}
 
   bool replay = false;
+};
+
+class QuietEvents : public Events {
+ public:
+  void turned_for_dealer(int, int) override {}
+  void hand_dealt() override {}
+  void drew(int, int) override {}
+  void laid(int, int, Cards) override {}
+  void added(int, int, int) override {}
+  void discarded(int, int) override {}
+  void reshuffled() override {}
+  void refused(Refusal, Cards, Cards) override {}
+  void went_out(int) override {}
+  void counted_double(int) override {}
 };
 
 /// A clock that moves on by one at each reading.

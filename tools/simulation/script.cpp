@@ -7,10 +7,6 @@
 namespace tombrello {
 namespace {
 
-float x_of_slot(const Metrics& m, int slot) {
-  return m.ventaglio_x() + (static_cast<float>(slot) - 0.5F) * m.passo_carta();
-}
-
 void post(State& s, Azione code, float x = 0) {
   s.x_click = x;
   s.azione = code;
@@ -28,11 +24,11 @@ class Dice {
 
 class SimpleScript : public Script {
  public:
-  void act(State& s, const Metrics& m) override {
+  void act(State& s, const Geometry& g) override {
     if (!s.ha_pescato) {
       post(s, kDrawStock);
     } else {
-      post(s, kDiscard, x_of_slot(m, s.n_mano[1]));
+      post(s, kDiscard, g.x_of_slot(s.n_mano[1]));
     }
   }
 };
@@ -65,14 +61,14 @@ class MelderScript : public Script {
  public:
   explicit MelderScript(std::uint64_t seed) : dice_(seed) {}
 
-  void act(State& s, const Metrics& m) override {
+  void act(State& s, const Geometry& g) override {
     if (!s.ha_pescato) {
       plan_.clear();
       additions_left_ = 6;
       post(s, dice_.below(3) == 0 ? kDrawPile : kDrawStock);
       return;
     }
-    if (plan_.empty()) make_plan(s, m);
+    if (plan_.empty()) make_plan(s, g);
     const auto [code, x] = plan_.front();
     plan_.pop_front();
     post(s, code, x);
@@ -84,17 +80,17 @@ class MelderScript : public Script {
     float x;
   };
 
-  void make_plan(const State& s, const Metrics& m) {
+  void make_plan(const State& s, const Geometry& g) {
     const auto meld = find_meld(s);
     const Azione side = dice_.below(4) == 0 ? kLayPartnerSide : kLayOwnSide;
     if (!meld.empty() && additions_left_-- > 0) {
-      for (const int k : meld) plan_.push_back({kSelect, x_of_slot(m, k)});
-      plan_.push_back({side, m.striscia_x() + 1});
+      for (const int k : meld) plan_.push_back({kSelect, g.x_of_slot(k)});
+      plan_.push_back({side, g.striscia_x() + 1});
     } else if (s.n_mano[1] > 1 && additions_left_-- > 0) {
-      plan_.push_back({kSelect, x_of_slot(m, 1 + dice_.below(s.n_mano[1]))});
-      plan_.push_back({side, m.striscia_x() + static_cast<float>(dice_.below(400))});
+      plan_.push_back({kSelect, g.x_of_slot(1 + dice_.below(s.n_mano[1]))});
+      plan_.push_back({side, g.striscia_x() + static_cast<float>(dice_.below(400))});
     } else {
-      plan_.push_back({kDiscard, x_of_slot(m, 1 + dice_.below(s.n_mano[1]))});
+      plan_.push_back({kDiscard, g.x_of_slot(1 + dice_.below(s.n_mano[1]))});
     }
   }
 
@@ -107,7 +103,7 @@ class WildScript : public Script {
  public:
   explicit WildScript(std::uint64_t seed) : dice_(seed) {}
 
-  void act(State& s, const Metrics& m) override {
+  void act(State& s, const Geometry& g) override {
     constexpr Azione kCodes[] = {kDrawPile,   kDrawStock,     kSelect,         kSelect,
                                  kSelect,     kLayOwnSide,    kLayPartnerSide, kDiscard,
                                  kDealerDraw, kNamesConfirmed};
@@ -116,8 +112,8 @@ class WildScript : public Script {
     if (code == kSelect && (!s.ha_pescato || s.n_mano[1] == 1)) return;
     const bool on_fan = code == kSelect || code == kDiscard;
     post(s, code,
-         on_fan ? x_of_slot(m, 1 + dice_.below(s.n_mano[1]))
-                : m.striscia_x() - 20 + static_cast<float>(dice_.below(500)));
+         on_fan ? g.x_of_slot(1 + dice_.below(s.n_mano[1]))
+                : g.striscia_x() - 20 + static_cast<float>(dice_.below(500)));
   }
 
  private:

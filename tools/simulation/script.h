@@ -3,7 +3,7 @@
 #include <memory>
 #include <random>
 
-#include "cards/metrics.h"
+#include "cards/geometry.h"
 #include "cards/state.h"
 
 namespace tombrello {
@@ -12,7 +12,7 @@ namespace tombrello {
 class Script {
  public:
   virtual ~Script() = default;
-  virtual void act(State& state, const Metrics& metrics) = 0;
+  virtual void act(State& state, const Geometry& geometry) = 0;
 };
 
 enum class ScriptKind {

@@ -7,14 +7,14 @@ namespace tombrello {
 Simulation::Simulation(ScriptKind kind, std::uint64_t seed)
     : clock_(seed),
       script_(make_script(kind, seed)),
-      wait_(state_, metrics_, *script_),
-      rules_(state_, metrics_, clock_, {table_, wait_, sound_, shell_}) {}
+      wait_(state_, geometry_, *script_),
+      rules_(state_, geometry_, clock_, {table_, wait_, sound_, shell_, events_}) {}
 
 void Simulation::ScriptedWait::serve_events() {
   if (s_.azione == kDealerDraw) {
     s_.carta_scelta = static_cast<std::uint8_t>(s_.mazzo[s_.indice_estrazione]);
   } else {
-    script_.act(s_, m_);
+    script_.act(s_, g_);
   }
 }
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "cards/metrics.h"
+#include "cards/geometry.h"
 #include "cards/state.h"
 #include "match/rules.h"
 #include "tools/simulation/quiet.h"
@@ -37,14 +37,14 @@ class Simulation {
  private:
   class ScriptedWait : public Wait {
    public:
-    ScriptedWait(State& state, const Metrics& metrics, Script& script)
-        : s_(state), m_(metrics), script_(script) {}
+    ScriptedWait(State& state, const Geometry& geometry, Script& script)
+        : s_(state), g_(geometry), script_(script) {}
     void ritardo(float) override {}
     void serve_events() override;
 
    private:
     State& s_;
-    const Metrics& m_;
+    const Geometry& g_;
     Script& script_;
   };
 
@@ -53,12 +53,13 @@ class Simulation {
   void sign_hand(const HandResult& result);
 
   State state_;
-  Metrics metrics_;
+  Geometry geometry_;
   CountingClock clock_;
   std::unique_ptr<Script> script_;
   QuietTable table_;
   QuietSound sound_;
   QuietShell shell_;
+  QuietEvents events_;
   ScriptedWait wait_;
   Rules rules_;
   bool in_match_ = false;

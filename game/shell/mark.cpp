@@ -1,0 +1,124 @@
+#include "shell/mark.h"
+
+#include <cmath>
+
+#include "table/painted_table.h"
+
+namespace tombrello {
+namespace {
+
+PressPoint any_point(const Spot& spot) {
+  return spot.press ? *spot.press : *spot.select;
+}
+
+float distance(PressPoint a, PressPoint b) {
+  return std::hypot(a.x - b.x, a.y - b.y);
+}
+
+}  // namespace
+
+void Mark::pointer_moved(float x, float y) {
+  by_keys_ = false;
+  at_ = {x, y};
+  mark_under_pointer();
+}
+
+// On the fan the right button's card is marked, whatever the left one would do.
+void Mark::mark_under_pointer() {
+  for (const Button button : {Button::right, Button::left}) {
+    const auto meaning = pointer_.meaning(button, at_.x, at_.y);
+    if (meaning.act != Pointer::Act::none) return show(area_of(meaning.place));
+  }
+  show(std::nullopt);
+}
+
+void Mark::show(const std::optional<Area>& area) {
+  if (area == shown_) return;
+  shown_ = area;
+  window_.set_mark(area);
+}
+
+void Mark::refresh() {
+  if (by_keys_ || window_.wants_places()) spots_ = places_.spots();
+  if (by_keys_) {
+    mark_nearest();
+  } else {
+    mark_under_pointer();
+  }
+  if (!window_.wants_places()) return;
+  std::vector<TablePlace> told;
+  int focus = -1;
+  for (const Spot& spot : spots_) {
+    if (shown_ && spot.told.area == *shown_) focus = static_cast<int>(told.size());
+    told.push_back(spot.told);
+  }
+  window_.set_places(told, focus);
+}
+
+void Mark::mark_nearest() {
+  spot_.reset();
+  for (std::size_t i = 0; i < spots_.size(); ++i) {
+    if (!spots_[i].acts()) continue;
+    if (!spot_ || distance(at_, any_point(spots_[i])) < distance(at_, any_point(spots_[*spot_]))) {
+      spot_ = i;
+    }
+  }
+  show(spot_ ? std::optional(spots_[*spot_].told.area) : std::nullopt);
+}
+
+void Mark::choose(std::size_t spot) {
+  spot_ = spot;
+  at_ = any_point(spots_[spot]);
+  show(spots_[spot].told.area);
+}
+
+void Mark::move(Key key) {
+  spots_ = places_.spots();
+  const bool first_key = !by_keys_;
+  by_keys_ = true;
+  mark_nearest();
+  if (!spot_) return;
+  if (first_key) return choose(*spot_);  // shows where the keys begin
+  std::optional<std::size_t> target;
+  if (key == Key::right || key == Key::next) target = next(*spot_, 1);
+  if (key == Key::left || key == Key::previous) target = next(*spot_, -1);
+  if (key == Key::up || key == Key::down) target = beyond(*spot_, key == Key::up);
+  if (target) choose(*target);
+}
+
+// Round the table, past its last place to the first.
+std::optional<std::size_t> Mark::next(std::size_t from, int direction) const {
+  const std::size_t n = spots_.size();
+  for (std::size_t step = 1; step <= n; ++step) {
+    const std::size_t i = (from + (direction > 0 ? step : n - step)) % n;
+    if (spots_[i].acts()) return i;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::size_t> Mark::beyond(std::size_t from, bool upward) const {
+  constexpr float kAnotherRow = 30;  // units
+  const PressPoint here = any_point(spots_[from]);
+  std::optional<std::size_t> best;
+  for (std::size_t i = 0; i < spots_.size(); ++i) {
+    if (!spots_[i].acts()) continue;
+    const PressPoint there = any_point(spots_[i]);
+    const float rise = upward ? here.y - there.y : there.y - here.y;
+    if (rise < kAnotherRow) continue;
+    if (!best || distance(here, there) < distance(here, any_point(spots_[*best]))) best = i;
+  }
+  return best;
+}
+
+std::optional<PressPoint> Mark::point(Button button) const {
+  if (!by_keys_ || !spot_) return std::nullopt;
+  return point(static_cast<int>(*spot_), button);
+}
+
+std::optional<PressPoint> Mark::point(int place, Button button) const {
+  if (place < 0 || place >= static_cast<int>(spots_.size())) return std::nullopt;
+  const Spot& spot = spots_[static_cast<std::size_t>(place)];
+  return button == Button::right ? spot.select : spot.press;
+}
+
+}  // namespace tombrello

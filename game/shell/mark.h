@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "shell/places.h"
+
+namespace tombrello {
+
+/// The mark over the table: what a press here and now would act on. It follows the pointer, and
+/// the keys move it from place to place.
+class Mark {
+ public:
+  Mark(Window& window, const Pointer& pointer, const Places& places)
+      : window_(window), pointer_(pointer), places_(places) {}
+
+  void pointer_moved(float x, float y);
+  /// To the next or previous place where a press does something, or to one above or below.
+  void move(Key key);
+  /// Before each wait: the table may have changed under the mark.
+  void refresh();
+
+  /// Where the marked place takes a press of this button, if the keys have marked one.
+  std::optional<PressPoint> point(Button button) const;
+  /// The same for a place by its number in the last `set_places`.
+  std::optional<PressPoint> point(int place, Button button) const;
+
+ private:
+  void mark_under_pointer();
+  void mark_nearest();
+  void choose(std::size_t spot);
+  void show(const std::optional<Area>& area);
+  std::optional<std::size_t> next(std::size_t from, int direction) const;
+  std::optional<std::size_t> beyond(std::size_t from, bool upward) const;
+
+  Window& window_;
+  const Pointer& pointer_;
+  const Places& places_;
+  std::vector<Spot> spots_;  ///< as they stood at the last refresh
+  bool by_keys_ = false;
+  PressPoint at_{-1, -1};            ///< of the pointer, or of the marked place
+  std::optional<std::size_t> spot_;  ///< the marked place, with the keys
+  std::optional<Area> shown_;
+};
+
+}  // namespace tombrello

@@ -1,0 +1,169 @@
+#include "told/chronicle.h"
+
+#include <algorithm>
+
+#include "told/card_names.h"
+#include "told/refusals.h"
+
+namespace tombrello {
+namespace {
+
+constexpr const char* kBetween = " · ";
+
+int selected_cards(const State& s) {
+  const auto& hand = s.mano[1];
+  return static_cast<int>(
+      std::count_if(hand.begin(), hand.end(), [](int card) { return card > kSelected; }));
+}
+
+std::string total(const State& s, int team) {
+  return std::to_string(s.punti_totali[static_cast<std::size_t>(team)]);
+}
+
+}  // namespace
+
+Chronicle::Moment Chronicle::moment() const {
+  return {
+      static_cast<int>(s_.phase), s_.di_turno, s_.ha_pescato ? 1 : 0, s_.n_mano[1], s_.numero_mano,
+      selected_cards(s_)};
+}
+
+void Chronicle::show() {
+  const Moment now_is = moment();
+  if (now_is == shown_ && !changed_) return;
+  if (now_is != shown_ && !changed_) remark_.clear();  // it was about the moment before
+  shown_ = now_is;
+  changed_ = false;
+  window_.set_chronicle(remark_.empty() ? now() : remark_, then());
+}
+
+void Chronicle::remark(const std::string& sentence) {
+  remark_ = sentence;
+  changed_ = true;
+}
+
+const std::string& Chronicle::name_of(int seat) const {
+  return s_.nomi[static_cast<std::size_t>(seat - 1)];
+}
+
+std::string Chronicle::now() const {
+  switch (s_.phase) {
+    case Phase::opening:
+      return "Fai clic per cominciare";
+    case Phase::draw:
+      return "Scelta del cartaro: fai clic sul mazzo per la carta di " + name_of(s_.di_turno);
+    case Phase::deal:
+      return name_of(s_.cartaro) + " dà le carte";
+    case Phase::hand:
+      return s_.di_turno == 1 ? own_turn() : "Gioca " + name_of(s_.di_turno);
+    case Phase::open_hands:
+      return "Mano finita: si contano i punti";
+    case Phase::count:
+    case Phase::match_over:
+      return count();
+    default:
+      return {};
+  }
+}
+
+std::string Chronicle::own_turn() const {
+  if (!s_.ha_pescato) return "Tocca a te: pesca dal Pozzo o dal Tallone";
+  if (s_.n_mano[1] == 1) return "Ultima carta: fai clic per scartarla e chiudere";
+  switch (selected_cards(s_)) {
+    case 0:
+      return "Scarta (clic) o seleziona le carte da calare (tasto destro)";
+    case 1:
+      return "Attaccala: clic sulla metà bassa di una combinazione";
+    case 2:
+      return "Selezionane almeno una terza per calare";
+    default:
+      return "Cala: clic dove appare la freccia, da te o dal compagno";
+  }
+}
+
+std::string Chronicle::count() const {
+  const std::string score =
+      s_.squadre[0] + " " + total(s_, 1) + kBetween + s_.squadre[1] + " " + total(s_, 2);
+  if (s_.phase == Phase::count) return score + ". Invio per continuare, o Partita, Continua";
+  if (s_.punti_totali[1] == s_.punti_totali[2]) return "Partita finita in parità: " + score;
+  const bool own = s_.punti_totali[1] > s_.punti_totali[2];
+  return (own ? "Avete vinto la partita! " : "Partita a " + s_.squadre[1] + ". ") + score;
+}
+
+std::string Chronicle::then() const {
+  std::string line;
+  for (const std::string& sentence : then_) line += (line.empty() ? "" : kBetween) + sentence;
+  return line;
+}
+
+void Chronicle::tell(int seat, const std::string& deed) {
+  if (seat == 1) return;  // the player knows
+  if (telling_ == seat) {
+    then_.back() += ", " + deed;
+  } else {
+    then_.push_back(name_of(seat) + ": " + deed);
+  }
+  telling_ = seat;
+  changed_ = true;
+}
+
+void Chronicle::tell_all(const std::string& sentence) {
+  then_.push_back(sentence);
+  telling_ = 0;
+  changed_ = true;
+}
+
+void Chronicle::begin_round() {
+  then_.clear();
+  telling_ = 0;
+  changed_ = true;
+}
+
+// Seat 2's card is the first, also after a tie.
+void Chronicle::turned_for_dealer(int seat, int card) {
+  if (seat == 2) begin_round();
+  tell_all(name_of(seat) + " " + short_name(card));
+}
+
+void Chronicle::hand_dealt() {
+  begin_round();
+  remark_.clear();
+}
+
+void Chronicle::drew(int seat, int pile_card) {
+  if (seat != 1) remark_.clear();
+  tell(seat, pile_card == 0 ? "Tallone" : "Pozzo");
+}
+
+void Chronicle::laid(int seat, int, Cards cards) {
+  tell(seat, "cala " + short_names(cards));
+}
+
+void Chronicle::added(int seat, int, int card) {
+  tell(seat, "attacca " + short_name(card));
+}
+
+// With the player's own discard a new round of the others begins.
+void Chronicle::discarded(int seat, int card) {
+  if (seat == 1) begin_round();
+  tell(seat, "scarta " + short_name(card));
+}
+
+void Chronicle::reshuffled() {
+  tell_all("il Pozzo si rimescola");
+}
+
+void Chronicle::refused(Refusal why, Cards cards, Cards meld) {
+  remark(sentence_of(why, cards, meld));
+}
+
+void Chronicle::went_out(int seat) {
+  remark_.clear();
+  tell_all(seat == 1 ? "hai chiuso" : name_of(seat) + " chiude");
+}
+
+void Chronicle::counted_double(int team) {
+  tell_all("punti raddoppiati per " + s_.squadre[static_cast<std::size_t>(team - 1)]);
+}
+
+}  // namespace tombrello

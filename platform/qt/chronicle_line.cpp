@@ -1,0 +1,54 @@
+#include "qt/chronicle_line.h"
+
+#include <QAccessible>
+#include <QPainter>
+#include <algorithm>
+
+namespace tombrello::qt {
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kGap = 24;  // between the two parts
+
+}  // namespace
+
+ChronicleLine::ChronicleLine(QWidget* parent) : QLabel(parent) {
+  setObjectName("chronicle");
+  setTextFormat(Qt::PlainText);
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+QSize ChronicleLine::sizeHint() const {
+  return {0, fontMetrics().height() + fontMetrics().height() / 2};
+}
+
+void ChronicleLine::tell(const std::string& now, const std::string& then) {
+  now_ = QString::fromStdString(now);
+  then_ = QString::fromStdString(then);
+  const QString whole = then_.isEmpty() ? now_ : now_ + QString::fromUtf8(" — ") + then_;
+  setText(whole);
+  setToolTip(whole.toHtmlEscaped());  // wrapped where it is long
+  update();
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent alert(this, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+void ChronicleLine::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect inside = rect().adjusted(kMargin, 0, -kMargin, 0);
+  QFont bold = font();
+  bold.setBold(true);
+  const QFontMetrics bold_letters(bold);
+  painter.setFont(bold);
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter,
+                   bold_letters.elidedText(now_, Qt::ElideRight, inside.width()));
+  painter.setFont(font());
+  const int room = inside.width() - bold_letters.horizontalAdvance(now_) - kGap;
+  if (room <= 0) return;
+  painter.drawText(inside, Qt::AlignRight | Qt::AlignVCenter,
+                   fontMetrics().elidedText(then_, Qt::ElideLeft, room));
+}
+
+}  // namespace tombrello::qt
