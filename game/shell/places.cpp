@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "melds/meld_range.h"
 #include "table/painted_table.h"
 #include "told/card_names.h"
 
@@ -68,16 +69,11 @@ void Places::add_hand_of(Spots& spots, int seat) const {
 }
 
 void Places::add_melds_of(Spots& spots, int seat) const {
-  const auto& list = s_.calate[seat];
-  int first = 1;
-  for (int k = 1; k <= s_.n_calate[seat]; ++k) {
-    if (list[static_cast<std::size_t>(k)] != kSentinel) continue;
-    const auto count = static_cast<std::size_t>(k - first);
-    const Cards meld = Cards(list).subspan(static_cast<std::size_t>(first), count);
-    const std::string whose = seat == 1 ? "tua" : "di " + name_of(seat);
-    add(spots, meld_name(meld) + ", " + whose + ", " + cards_word(k - first),
-        span(g_.strip_card(seat, first), g_.strip_card(seat, k - 1)));
-    first = k + 1;
+  const std::string whose = seat == 1 ? "tua" : "di " + name_of(seat);
+  for (const Meld meld : melds_of(s_, seat)) {
+    add(spots,
+        meld_name(cards_of(s_.calate[seat], meld)) + ", " + whose + ", " + cards_word(meld.cards()),
+        span(g_.strip_card(seat, meld.first), g_.strip_card(seat, meld.last)));
   }
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "melds/meld_range.h"
 #include "shell/pointer.h"
 
 namespace tombrello {
@@ -60,9 +61,7 @@ Place Pointer::meld_for(int side, float x) const {
   list[static_cast<std::size_t>(n + 2)] = kSentinel;
   const int last = g_.click_strip_at(list, n + 2, x).last_card;
   if (last == 0) return {};
-  int first = last;
-  while (first > 1 && list[static_cast<std::size_t>(first - 1)] != kSentinel) --first;
-  Place meld = g_.strip_card(side, first);
+  Place meld = g_.strip_card(side, meld_up_to(list, last).first);
   meld.right = g_.strip_card(side, last).right;
   return meld;
 }

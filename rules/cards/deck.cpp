@@ -1,5 +1,7 @@
 #include "cards/deck.h"
 
+#include <cassert>
+
 namespace tombrello {
 namespace {
 
@@ -20,14 +22,15 @@ void Deck::shuffle_into(int first, int count) {
   for (int i = first; i < first + count;) {
     // Cut before the sum: r * 52 + 53 can round up to 105, a slot too far.
     const int pick = static_cast<int>(random_.next() * count) + first;
-    if (s_.mazzo_tmp[pick] == 0) continue;
+    // Written first and counted afterwards: a branch here would be guessed wrong half the time.
     s_.mazzo[i] = s_.mazzo_tmp[pick];
+    if (s_.mazzo[i] != 0) ++i;
     s_.mazzo_tmp[pick] = 0;
-    ++i;
   }
 }
 
 void Deck::daicarte() {
+  assert(1 <= s_.cartaro && s_.cartaro <= kSeats);
   out_.table.Posiziona_Players();
   out_.sound.Apri_suono("carta");
   out_.table.stock_shows(0);
@@ -51,6 +54,7 @@ void Deck::deal_packet(int seat, int first) {
     const int slot = first + k - 1;
     out_.wait.ritardo(0.03F);
     show_dealt(seat, k, slot);
+    assert(s_.n_mano[seat] == kHandCards);
     s_.mano[seat][k] = s_.mazzo[slot];
     s_.presenze[seat].mark(s_.mazzo[slot]);
   }
@@ -72,6 +76,7 @@ void Deck::turn_up_first_card() {
 }
 
 void Deck::Rimescola() {
+  assert(s_.n_pozzo == kPack);
   out_.wait.ritardo(0.1F);
   out_.table.reshuffle_message();
   out_.table.reshuffle_begins();
@@ -90,6 +95,7 @@ void Deck::Rimescola() {
 }
 
 void Deck::take_from_pile(int seat) {
+  assert(s_.n_pozzo > 0);
   const int card = top_of_pile();
   add_to_hand(seat, static_cast<std::int16_t>(card));
   --s_.n_pozzo;
@@ -102,6 +108,7 @@ void Deck::take_from_pile(int seat) {
 }
 
 void Deck::take_from_stock(int seat) {
+  assert(kFirstStock <= s_.tallone && s_.tallone <= kCards);
   const std::int16_t card = s_.mazzo[s_.tallone];
   add_to_hand(seat, card);
   out_.events.drew(seat, 0);
@@ -115,12 +122,22 @@ void Deck::take_from_stock(int seat) {
   out_.table.stock_shows(back_number(s_.mazzo[s_.tallone]));
 }
 
+void Deck::pesco_carta(int seat, int source) {
+  if (source == kFromPile) {
+    take_from_pile(seat);
+  } else {
+    take_from_stock(seat);
+  }
+}
+
 void Deck::add_to_hand(int seat, std::int16_t card) {
+  assert(s_.n_mano[seat] < kHandSlots);
   ++s_.n_mano[seat];
   s_.mano[seat][s_.n_mano[seat]] = card;
 }
 
 void Deck::add_to_pile(int card) {
+  assert(1 <= card && card <= kCards && s_.n_pozzo < kPack);
   ++s_.n_pozzo;
   s_.pozzo[s_.n_pozzo - 1] = static_cast<std::int16_t>(card);
 }

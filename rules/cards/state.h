@@ -1,11 +1,13 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
 #include "cards/card.h"
+#include "cards/slice.h"
 
 namespace tombrello {
 
@@ -18,27 +20,37 @@ inline constexpr int kListPositions = 30;  ///< positions 1..30 of a list of mel
 inline constexpr int kLastRow = 10;        ///< rows 0..10 of `punti_mano`
 inline constexpr int kWinningTotal = 1500;
 
+/// The seat that plays next; without a seat, 0, the first.
 constexpr int next_seat(int seat) {
+  assert(0 <= seat && seat <= kSeats);
   return seat == kSeats ? 1 : seat + 1;
 }
 constexpr int partner_of(int seat) {
+  assert(1 <= seat && seat <= kSeats);
   return seat > 2 ? seat - 2 : seat + 2;
 }
 
-/// Which suit-ranks a hand holds: 52 characters, '*' or '_', at `presence_position` from 1.
-/// It doesn't count: both copies of a card give a single '*'.
+/// Which suit-ranks a hand holds: a string of 52 marks, one for each card of the first pack in
+/// the order of their codes, kept as bits. It doesn't count: both copies of a card give one mark.
 class PresenceString {
  public:
-  PresenceString() { clear(); }
-  void clear() { marks_.fill('_'); }
-  void mark(int card) { marks_[static_cast<std::size_t>(presence_position(card) - 1)] = '*'; }
-  bool holds(int position) const { return marks_[static_cast<std::size_t>(position - 1)] == '*'; }
-  /// The 13 characters of a suit index 0..3, Ace to King.
-  const char* slice(int suit_index) const { return marks_.data() + suit_index * kRanks; }
+  void clear() { marks_ = 0; }
+  void mark(int card) { marks_ |= bit(first_pack_twin(card)); }
+  bool holds(int first_pack_code) const { return (marks_ & bit(first_pack_code)) != 0; }
+  /// The ranks held of a suit 1..4.
+  Slice slice(int suit) const {
+    assert(1 <= suit && suit <= kSuits);
+    return Slice(static_cast<unsigned>(marks_ >> ((suit - 1) * kRanks)) & kAllRanks);
+  }
   bool operator==(const PresenceString&) const = default;
 
  private:
-  std::array<char, kPack> marks_;
+  static constexpr std::uint64_t bit(int code) {
+    assert(1 <= code && code <= kPack);
+    return std::uint64_t{1} << (code - 1);
+  }
+
+  std::uint64_t marks_ = 0;
 };
 
 /// What stands on the table. The match sets it; nobody infers it.

@@ -111,10 +111,8 @@ std::array<std::int16_t, kHandSlots> PersonTurn::selected_cards() const {
 }
 
 Cards PersonTurn::meld_at(int side, int last) const {
-  if (last == 0) return {};
-  const int first = melds_.first_of_meld(side, last);
-  return Cards(s_.calate[side])
-      .subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(last - first + 1));
+  const MeldList& list = s_.calate[side];
+  return last == 0 ? Cards() : cards_of(list, meld_up_to(list, last));
 }
 
 void PersonTurn::tell_refusal(Refusal why, Cards meld) {
