@@ -1,5 +1,7 @@
 #include "qt/disk_archive.h"
 
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -51,7 +53,10 @@ bool DiskArchive::replace(const std::string& name, const std::string& content) {
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) return false;
   const auto size = static_cast<qint64>(content.size());
-  return file.write(content.data(), size) == size && file.commit();
+  // A commit puts the file in the old one's place even if its own last flush has failed: all must
+  // be on the disk before.
+  return file.write(content.data(), size) == size && file.flush() && fsync(file.handle()) == 0 &&
+         file.commit();
 }
 
 std::vector<std::string> DiskArchive::list(const std::string& folder) {

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <csignal>
 
 #include "qt/disk_archive.h"
 
@@ -67,6 +69,35 @@ TEST_F(ArchiveTest, GivesUpQuietly) {
   EXPECT_FALSE(nowhere.replace("config.zvq", "x"));
   EXPECT_FALSE(nowhere.read("config.zvq", 99));
   EXPECT_TRUE(nowhere.list("music").empty());
+}
+
+/// As on a disk that is nearly full: no file grows past so many bytes.
+class NearlyFull {
+ public:
+  explicit NearlyFull(rlim_t bytes) : before_signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit less = {bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &less);
+  }
+  ~NearlyFull() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, before_signal_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*before_signal_)(int);
+};
+
+TEST_F(ArchiveTest, AFullDiskKeepsTheOldFile) {
+  const std::string old(670, 'o');
+  ASSERT_TRUE(archive_.replace("config.zvq", old));
+  {
+    const NearlyFull disk(300);
+    EXPECT_FALSE(archive_.replace("config.zvq", std::string(670, 'n')));
+  }
+  EXPECT_EQ(archive_.read("config.zvq", 999), old);
+  EXPECT_EQ(QDir(program("")).entryList(QDir::Files | QDir::Hidden), QStringList("config.zvq"));
 }
 
 TEST_F(ArchiveTest, ListsPlainFilesByName) {
