@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cards/state.h"
+#include "seam/capital.h"
 #include "seam/window.h"
 #include "shell/ids.h"
 #include "shell/settings.h"
@@ -13,8 +14,8 @@ namespace tombrello {
 /// for the opening picture or the deck meanwhile.
 class NamesDialog {
  public:
-  NamesDialog(State& state, Window& window, Settings& settings)
-      : s_(state), window_(window), settings_(settings) {}
+  NamesDialog(State& state, Window& window, Settings& settings, Capital capital)
+      : s_(state), window_(window), settings_(settings), capital_(capital) {}
 
   /// Creates fields and shapes, hidden.
   void create();
@@ -36,6 +37,7 @@ class NamesDialog {
   State& s_;
   Window& window_;
   Settings& settings_;
+  Capital capital_;
 };
 
 }  // namespace tombrello

@@ -12,7 +12,7 @@ Program::Program(Platform platform)
     : window_(platform.window),
       settings_(s_, platform.archive),
       panels_(window_),
-      names_(s_, window_, settings_),
+      names_(s_, window_, settings_, platform.capital),
       pointer_(s_, m_, window_, panels_, names_),
       pacing_(s_, window_, platform.timer),
       table_(s_, m_, window_),

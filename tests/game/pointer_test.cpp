@@ -58,7 +58,7 @@ class PointerTest : public testing::Test {
   MemoryArchive archive_;
   Settings settings_{s_, archive_};
   Panels panels_{window_};
-  NamesDialog names_{s_, window_, settings_};
+  NamesDialog names_{s_, window_, settings_, plain_capital};
   Pointer pointer_{s_, m_, window_, panels_, names_};
 };
 
