@@ -5,6 +5,9 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <thread>
 #include <utility>
@@ -13,6 +16,8 @@
 
 namespace tombrello::qt {
 namespace {
+
+constexpr QSize kRestored(1000, 780);
 
 // Wide enough for its own title, and without buttons that it has no use for.
 constexpr int kBoxWidth = 220;
@@ -46,6 +51,22 @@ void DesktopWindow::Frame::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
+// The window manager tells the restored size after the state, and the borders' with it.
+void DesktopWindow::Frame::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  const bool restored = event->type() == QEvent::WindowStateChange && windowState() == 0;
+  if (restored) QTimer::singleShot(0, this, [this] { stay_on_screen(); });
+}
+
+void DesktopWindow::Frame::stay_on_screen() {
+  const QRect free = screen()->availableGeometry();
+  const QSize borders = frameGeometry().size() - size();
+  const QSize fitting = size().boundedTo(free.size() - borders);
+  if (fitting == size()) return;
+  resize(fitting);
+  move(free.topLeft());
+}
+
 DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
     : table_(new TableWidget(std::move(pictures), relay_)), overlay_(*table_, relay_) {
   frame_.menuBar()->setNativeMenuBar(false);
@@ -53,7 +74,8 @@ DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
   frame_.setContextMenuPolicy(Qt::PreventContextMenu);
   frame_.setCentralWidget(table_);
   frame_.setMinimumSize(400, 300);
-  frame_.resize(1000, 780);
+  // A tenth is left for borders, which nobody knows before the window stands.
+  frame_.resize(kRestored.boundedTo(frame_.screen()->availableSize() * 9 / 10));
   frame_.setWindowIcon(icon_of(icon));
   // Leaving is up to the chain of the game: the window only says that it is closing.
   QApplication::setQuitOnLastWindowClosed(false);

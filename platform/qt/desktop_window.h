@@ -67,8 +67,11 @@ class DesktopWindow : public Window {
 
    protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
    private:
+    void stay_on_screen();
+
     bool& closing_;
   };
 

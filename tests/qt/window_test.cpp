@@ -150,6 +150,19 @@ TEST_F(WindowTest, OnlyTheProgramMovesChecks) {
   EXPECT_EQ(events_.chosen, (std::vector<int>{2, 3}));
 }
 
+TEST_F(WindowTest, RestoredItFitsTheScreenWhateverItsSizeWas) {
+  QMainWindow& frame = window_.frame();
+  const QSize free = frame.screen()->availableSize();
+  window_.show_maximised();
+  for (int larger : {0, 300}) {
+    frame.resize(frame.size() + QSize(larger, larger));
+    frame.showNormal();
+    settle();
+    EXPECT_EQ(frame.frameGeometry().size(), frame.frameGeometry().size().boundedTo(free)) << larger;
+    frame.setWindowState(Qt::WindowMaximized);
+  }
+}
+
 TEST_F(WindowTest, AFieldTakesWhatItsRuleTakes) {
   const FieldRule seven_but_commas = [](const std::string& text, int already) {
     std::string taken;
