@@ -135,6 +135,13 @@ TEST_F(StopOver, ATerminationSignalUnderTheQuestionAndUnderAMenu) {
   expect_quiet_end();
 }
 
+TEST_F(StopOver, ATerminationSignalWhileTheScreenAnswersNobody) {
+  start_quick();
+  freeze_screen();
+  send(SIGTERM);
+  expect_quiet_end(Milliseconds(2500));
+}
+
 using Shipped = PlayingSession;
 
 // Nobody tells here what the game does: the picture does.
