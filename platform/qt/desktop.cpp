@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "qt/session_bus.h"
+
 namespace tombrello::qt {
 namespace {
 
@@ -22,11 +24,14 @@ void at_start(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type == QtFatalMsg) end_without_screen();
 }
 
-QtMessageHandler watch_start() {
+QtMessageHandler before_start() {
   const bool any = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
                    !qEnvironmentVariableIsEmpty("DISPLAY") ||
                    !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
   if (!any) end_without_screen();
+  leave_silent_bus();
+  // The bar belongs into the window, and a desktop's own would be asked for on the bus.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   return qInstallMessageHandler(at_start);
 }
 
@@ -45,7 +50,7 @@ Desktop::Application::Application(int& argc, char** argv) : QApplication(argc, a
 }
 
 Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon)
-    : messages_(watch_start()),
+    : messages_(before_start()),
       application_(argc, argv),
       window_(std::move(pictures), icon),
       timer_(window_.events()),

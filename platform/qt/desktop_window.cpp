@@ -69,7 +69,6 @@ void DesktopWindow::Frame::stay_on_screen() {
 
 DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
     : table_(new TableWidget(std::move(pictures), relay_)), overlay_(*table_, relay_) {
-  frame_.menuBar()->setNativeMenuBar(false);
   frame_.menuBar()->setContextMenuPolicy(Qt::PreventContextMenu);
   frame_.setContextMenuPolicy(Qt::PreventContextMenu);
   frame_.setCentralWidget(table_);
