@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "qt/audio/midi_reader.h"
+#include "qt/audio/wave_check.h"
 
 namespace tombrello::qt {
 namespace {
@@ -118,8 +119,8 @@ bool SdlMixerDevice::open() {
 }
 
 Chunk SdlMixerDevice::load_wave(const fs::path& file) {
-  const auto bytes = read_file(file, kMostWave);
-  return Chunk(bytes ? Mix_LoadWAV_RW(stream(*bytes), 1) : nullptr);
+  const std::string wave = plain_wave(read_file(file, kMostWave).value_or(""));
+  return Chunk(wave.empty() ? nullptr : Mix_LoadWAV_RW(stream(wave), 1));
 }
 
 void SdlMixerDevice::play(Mix_Chunk& wave) {

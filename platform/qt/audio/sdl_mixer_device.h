@@ -48,7 +48,7 @@ class SdlMixerDevice {
 
   // All calls below rely on a lease.
 
-  /// Null if the file isn't a wave file of a few megabytes at most.
+  /// Null if the file isn't a wave file that is fit to be played, of a few megabytes at most.
   Chunk load_wave(const std::filesystem::path& file);
   /// From its beginning, beside everything that sounds already.
   void play(Mix_Chunk& wave);
