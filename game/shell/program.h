@@ -60,7 +60,7 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   void field_confirmed(ControlId field) override;
   void timer_ticked() override { pacing_.Timer1_Timer(); }
 
-  void media_done(int code) override { music_.MMC1_Done(code); }
+  void media_done(int code) override { music_.media_done(code); }
 
   void Set_Write() override { settings_.Set_Write(); }
   void enable_replay(bool enabled) override { window_.set_enabled(menu_replay, enabled); }

@@ -186,24 +186,42 @@ TEST(Tunes, TheEndOfAnOlderPlayMeansNothing) {
   EXPECT_TRUE(heard.ends.codes.empty());
 }
 
-TEST(Tunes, FilesThatAreNoneAreSilentAndNeverEnd) {
+TEST(Tunes, FilesThatAreNoneAreSilentAndSaidToBe) {
   Heard heard(6);
   const std::string whole = short_tune("a4:2 r", 120);
   heard.disk.put("music/empty.mid", "");
   heard.disk.put("music/broken.mid", whole.substr(0, whole.size() / 2));
   heard.disk.put("music/text.mid", "MThd? No.");
+  heard.disk.put("music/brief.mid",
+                 std::string("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\4\0\xFF\x2F\0", 26));
   heard.disk.put("music/huge.mid", whole);
   std::filesystem::resize_file(heard.disk.folder() / "music/huge.mid", 1UL << 33);
   std::filesystem::create_directories(heard.disk.folder() / "music/folder.mid");
   heard.audio.start();
-  for (const char* name : {"empty", "broken", "text", "huge", "folder", "missing"}) {
+  for (const char* name : {"empty", "broken", "text", "brief", "huge", "folder", "missing"}) {
     heard.play(std::string("music/") + name + ".mid");
-    std::this_thread::sleep_for(std::chrono::milliseconds(150));
-    EXPECT_FALSE(heard.woken) << name;
+    ASSERT_TRUE(heard.await_end()) << name;
+    heard.audio.deliver();
+    EXPECT_EQ(std::exchange(heard.ends.codes, {}), std::vector<int>{MediaEvents::kFailed}) << name;
   }
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 0U);
   heard.play("music/low.mid");
   EXPECT_TRUE(heard.await_end());
+}
+
+TEST(Tunes, AnInstrumentThatNobodyHasIsReplacedWithoutAWord) {
+  Heard heard(6);
+  heard.disk.put("music/odd.mid",
+                 std::string("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\x13"
+                             "\0\xB0\0\x33\0\xC0\x0A\0\x90\x45\x60\x40\x80\x45\0\0\xFF\x2F\0",
+                             41));
+  testing::internal::CaptureStderr();
+  heard.audio.start();
+  heard.play("music/odd.mid");
+  EXPECT_TRUE(heard.await_end());
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  heard.audio.deliver();
+  EXPECT_EQ(heard.ends.codes, std::vector<int>{MediaEvents::kEnded});
 }
 
 TEST(Tunes, ANoteThatNeverEndsIsEnded) {
