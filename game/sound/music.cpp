@@ -25,10 +25,9 @@ Music::Music(MediaControl& MMC1, Window& window, std::uint8_t& brano, Entries en
       Set_Write_(std::move(Set_Write)) {}
 
 void Music::scan(Archive& archive) {
-  for (const std::string& file : archive.list("music")) {
-    if (file.starts_with('.')) continue;  // hidden: no plain file to its owner
+  for (const std::string& file : archive.list("music", kMostTunes)) {
     const auto extension = file.find(".mid");
-    if (extension == file.npos || tunes() == kMostTunes) return;
+    if (extension == file.npos) return;
     canzoni_.push_back(file.substr(0, extension));
     window_.add_entry(entries_.canzoni_0 + tunes(), entries_.menu, caption_of(canzoni_.back()));
   }

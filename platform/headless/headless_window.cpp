@@ -22,19 +22,20 @@ std::optional<std::string> MemoryArchive::read(const std::string& name, std::siz
 }
 
 bool MemoryArchive::replace(const std::string& name, const std::string& content) {
-  if (!writable) return false;
+  trouble_ = to_come;
+  if (trouble_ != Trouble::none) return false;
   files[name] = content;
   ++writes;
   return true;
 }
 
-std::vector<std::string> MemoryArchive::list(const std::string& folder) {
+std::vector<std::string> MemoryArchive::list(const std::string& folder, std::size_t most) {
   std::vector<std::string> names;
   const std::string start = folder + "/";
   for (const auto& [name, content] : files) {
-    if (!name.starts_with(start)) continue;
-    if (name.find('/', start.size()) == std::string::npos)
-      names.push_back(name.substr(start.size()));
+    const bool inside = name.starts_with(start) && !name.substr(start.size()).starts_with('.') &&
+                        name.find('/', start.size()) == std::string::npos;
+    if (inside && names.size() < most) names.push_back(name.substr(start.size()));
   }
   return names;
 }

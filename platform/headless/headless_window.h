@@ -33,11 +33,15 @@ class MemoryArchive : public Archive {
  public:
   std::optional<std::string> read(const std::string& name, std::size_t most) override;
   bool replace(const std::string& name, const std::string& content) override;
-  std::vector<std::string> list(const std::string& folder) override;
+  Trouble trouble() const override { return trouble_; }
+  std::vector<std::string> list(const std::string& folder, std::size_t most) override;
 
   std::map<std::string, std::string> files;
-  bool writable = true;
+  Trouble to_come = Trouble::none;  ///< what the next `replace` meets
   int writes = 0;
+
+ private:
+  Trouble trouble_ = Trouble::none;
 };
 
 /// A window that nobody sees. What happens in it comes from `on_pass` and `script`, from inside

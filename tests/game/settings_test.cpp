@@ -202,13 +202,19 @@ TEST(Settings, NoDamageHurts) {
   EXPECT_TRUE(Reading(whole + huge).s.mano_salvata);
 }
 
-TEST(Settings, AFolderThatCantBeWrittenKeepsTheOldFile) {
+TEST(Settings, WhatCantBeWrittenIsToldAndKeepsTheOldFile) {
   Reading read(options() + deck());
-  read.archive.writable = false;
   read.s.nomi[0] = "NEW";
-  EXPECT_EQ(read.written(), options() + deck());
-  read.archive.writable = true;
+  for (const auto& [trouble, reason] : {std::pair{Trouble::full, "spazio"},
+                                        {Trouble::refused, "permesso"},
+                                        {Trouble::broken, "disco"}}) {
+    read.archive.to_come = trouble;
+    EXPECT_EQ(read.written(), options() + deck());
+    EXPECT_NE(read.settings.complaint().find(reason), std::string::npos);
+  }
+  read.archive.to_come = Trouble::none;
   read.settings.Registra_Players();
+  EXPECT_EQ(read.settings.complaint(), "");
   EXPECT_EQ(read.archive.files["Players"], "NEW\r\nADA\r\nPIA\r\nUGO\r\n");
   EXPECT_EQ(read.archive.files[kFile], options() + deck());
 }
