@@ -9,6 +9,7 @@
 #include "match/rules.h"
 #include "seam/archive.h"
 #include "seam/beeper.h"
+#include "seam/capital.h"
 #include "seam/media.h"
 #include "seam/timer.h"
 #include "seam/window.h"
@@ -34,6 +35,7 @@ struct Platform {
   MediaControl& wave;
   MediaControl& sequencer;
   Beeper& beeper;
+  char32_t (&capital)(char32_t letter);  ///< as `Capital`
 };
 
 /// The program: owns the state of a run, and binds window, table, rules and settings. All of
@@ -63,7 +65,7 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   void place_pressed(int place, Button button) override;
   void timer_ticked() override { pacing_.Timer1_Timer(); }
 
-  void media_done(int code) override { music_.MMC1_Done(code); }
+  void media_done(int code) override { music_.media_done(code); }
 
   void Set_Write() override { settings_.Set_Write(); }
   void enable_replay(bool enabled) override { window_.set_enabled(menu_replay, enabled); }

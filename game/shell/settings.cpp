@@ -90,6 +90,21 @@ void Settings::Set_Write() {
   archive_.replace(kSettingsFile, content);
 }
 
+std::string Settings::complaint() const {
+  const std::string lost = "Opzioni, nomi e ultima mano non si possono salvare: ";
+  switch (archive_.trouble()) {
+    case Trouble::none:
+      return {};
+    case Trouble::full:
+      return lost + "non c'è più spazio";
+    case Trouble::refused:
+      return lost + "manca il permesso di scrivere";
+    case Trouble::broken:
+      break;
+  }
+  return lost + "il disco non risponde";
+}
+
 void Settings::Registra_Players() {
   std::string content;
   for (const auto& name : s_.nomi) content += name + "\r\n";

@@ -18,6 +18,8 @@ class Settings {
   void Set_Read();
   /// Replaces the whole file with the current values.
   void Set_Write();
+  /// What to tell the player when the last of these writes was not kept; otherwise nothing.
+  std::string complaint() const;
   /// Replaces the file of players; the settings file keeps its names until it is next written.
   void Registra_Players();
 

@@ -25,10 +25,9 @@ Music::Music(MediaControl& MMC1, Window& window, std::uint8_t& brano, Entries en
       Set_Write_(std::move(Set_Write)) {}
 
 void Music::scan(Archive& archive) {
-  for (const std::string& file : archive.list("music")) {
-    if (file.starts_with('.')) continue;  // hidden: no plain file to its owner
+  for (const std::string& file : archive.list("music", kMostTunes)) {
     const auto extension = file.find(".mid");
-    if (extension == file.npos || tunes() == kMostTunes) return;
+    if (extension == file.npos) return;
     canzoni_.push_back(file.substr(0, extension));
     window_.add_entry(entries_.canzoni_0 + tunes(), entries_.menu, caption_of(canzoni_.back()));
   }
@@ -39,7 +38,7 @@ void Music::start() {
   if (brano_ != kSequence) return;
   window_.set_checked(entries_.all, true);
   brano_ = 0;
-  MMC1_Done(1);
+  MMC1_Done(kEnded);
 }
 
 void Music::close() {
@@ -63,9 +62,10 @@ void Music::all_Click() {
   window_.set_checked(entries_.nomusic, false);
   window_.set_checked(entries_.all, true);
   brano_ = kSequence;
+  failures_ = 0;
   Set_Write_();
   brano_ = 0;
-  MMC1_Done(1);
+  MMC1_Done(kEnded);
 }
 
 void Music::nomusic_Click() {
@@ -78,13 +78,19 @@ void Music::nomusic_Click() {
 }
 
 void Music::MMC1_Done(int code) {
-  if (code != 1 || !window_.checked(entries_.all) || canzoni_.empty()) return;
+  if (code != kEnded || !window_.checked(entries_.all) || canzoni_.empty()) return;
   if (brano_ == tunes()) brano_ = 0;
   ++brano_;
   check_tune(brano_ == 1 ? tunes() : brano_ - 1, false);
   check_tune(brano_, true);
   open(brano_);
   MMC1_.command(MediaControl::Command::play);
+}
+
+void Music::media_done(int code) {
+  if (code == kEnded) failures_ = 0;
+  if (code == kFailed && ++failures_ < tunes()) code = kEnded;
+  MMC1_Done(code);
 }
 
 void Music::check_tune(int index, bool checked) {

@@ -43,7 +43,9 @@ class Music : public MediaEvents {
   void all_Click();
   void nomusic_Click();
   void MMC1_Done(int code);
-  void media_done(int code) override { MMC1_Done(code); }
+  /// In sequential mode a tune that can't be played gives way to the next one, until none of
+  /// them can be.
+  void media_done(int code) override;
 
  private:
   void check_tune(int index, bool checked);
@@ -56,6 +58,7 @@ class Music : public MediaEvents {
   Entries entries_;
   std::function<void()> Set_Write_;
   std::vector<std::string> canzoni_;  ///< file names without their extension
+  int failures_ = 0;                  ///< tunes in a row that couldn't be played
 };
 
 }  // namespace tombrello

@@ -1,9 +1,13 @@
 #include "qt/desktop.h"
 
+#include <QFile>
 #include <QStandardPaths>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+
+#include "qt/session_bus.h"
 
 namespace tombrello::qt {
 namespace {
@@ -22,16 +26,29 @@ void at_start(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type == QtFatalMsg) end_without_screen();
 }
 
-QtMessageHandler watch_start() {
+QtMessageHandler before_start() {
   const bool any = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
                    !qEnvironmentVariableIsEmpty("DISPLAY") ||
                    !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
   if (!any) end_without_screen();
+  // Where files may not grow, a save fails, and no more.
+  std::signal(SIGXFSZ, SIG_IGN);
+  leave_silent_bus();
+  // The bar belongs into the window, and a desktop's own would be asked for on the bus.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   return qInstallMessageHandler(at_start);
 }
 
-QString user_folder() {
-  return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+std::filesystem::path path_of(const QString& folder) {
+  return QFile::encodeName(folder).toStdString();
+}
+
+std::filesystem::path program_folder() {
+  return path_of(QCoreApplication::applicationDirPath());
+}
+
+std::filesystem::path user_folder() {
+  return path_of(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
 }  // namespace
@@ -45,14 +62,13 @@ Desktop::Application::Application(int& argc, char** argv) : QApplication(argc, a
 }
 
 Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon)
-    : messages_(watch_start()),
+    : messages_(before_start()),
       application_(argc, argv),
       window_(std::move(pictures), icon),
       timer_(window_.events()),
-      archive_(QCoreApplication::applicationDirPath(), user_folder()),
+      archive_(program_folder(), user_folder()),
       audio_(
-          QCoreApplication::applicationDirPath().toStdString(), [this] { wake_for_audio(); },
-          QApplication::beep) {
+          program_folder(), [this] { wake_for_audio(); }, QApplication::beep) {
   qInstallMessageHandler(messages_);
   window_.after_first_paint([this] { audio_.start(); });
   stop_signal_.listen([this] { window_.stop(); });

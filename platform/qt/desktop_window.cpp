@@ -5,7 +5,10 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QPushButton>
+#include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <chrono>
 #include <thread>
 #include <utility>
@@ -15,6 +18,8 @@
 
 namespace tombrello::qt {
 namespace {
+
+constexpr QSize kRestored(1000, 780);
 
 // Wide enough for its own title, and without buttons that it has no use for.
 constexpr int kBoxWidth = 220;
@@ -48,6 +53,22 @@ void DesktopWindow::Frame::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
+// The window manager tells the restored size after the state, and the borders' with it.
+void DesktopWindow::Frame::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  const bool restored = event->type() == QEvent::WindowStateChange && windowState() == 0;
+  if (restored) QTimer::singleShot(0, this, [this] { stay_on_screen(); });
+}
+
+void DesktopWindow::Frame::stay_on_screen() {
+  const QRect free = screen()->availableGeometry();
+  const QSize borders = frameGeometry().size() - size();
+  const QSize fitting = size().boundedTo(free.size() - borders);
+  if (fitting == size()) return;
+  resize(fitting);
+  move(free.topLeft());
+}
+
 DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
     : table_(new TableWidget(std::move(pictures), relay_)),
       line_(new ChronicleLine(nullptr)),
@@ -59,12 +80,12 @@ DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
   rows->setSpacing(0);
   rows->addWidget(table_, 1);
   rows->addWidget(line_);
-  frame_.menuBar()->setNativeMenuBar(false);
   frame_.menuBar()->setContextMenuPolicy(Qt::PreventContextMenu);
   frame_.setContextMenuPolicy(Qt::PreventContextMenu);
   frame_.setCentralWidget(whole);
   frame_.setMinimumSize(400, 300);
-  frame_.resize(1000, 780);
+  // A tenth is left for borders, which nobody knows before the window stands.
+  frame_.resize(kRestored.boundedTo(frame_.screen()->availableSize() * 9 / 10));
   frame_.setWindowIcon(icon_of(icon));
   // Leaving is up to the chain of the game: the window only says that it is closing.
   QApplication::setQuitOnLastWindowClosed(false);
@@ -151,8 +172,8 @@ void DesktopWindow::add_panel(ControlId panel, const std::string& text, const Fo
   overlay_.add_panel(panel, text, font, text_colour, back_colour);
 }
 
-void DesktopWindow::add_field(ControlId field, int most_characters, const Font& font) {
-  overlay_.add_field(field, most_characters, font);
+void DesktopWindow::add_field(ControlId field, FieldRule rule, const Font& font) {
+  overlay_.add_field(field, rule, font);
 }
 
 void DesktopWindow::add_shape(ControlId shape, Colour colour) {

@@ -1,13 +1,39 @@
 #include "qt/stop_signal.h"
 
-#include <pthread.h>
-#include <sys/signalfd.h>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
-#include <utility>
+#include <atomic>
+#include <cerrno>
+#include <cstdint>
+#include <system_error>
 
 namespace tombrello::qt {
 namespace {
+
+constexpr long kPatience = 900'000'000;  // nanoseconds
+
+// A handler is given nothing but a number: what it reaches must stand outside of all objects.
+std::atomic<int> request_descriptor = -1;
+std::atomic<timer_t> last_resort;
+std::atomic<bool> requested = false;
+static_assert(std::atomic<timer_t>::is_always_lock_free);
+
+// Any thread may be the one that is interrupted.
+void request(int) {
+  const int error = errno;
+  if (!requested.exchange(true)) {
+    const itimerspec patience = {{0, 0}, {0, kPatience}};
+    timer_settime(last_resort, 0, &patience, nullptr);
+  }
+  const std::uint64_t one = 1;
+  [[maybe_unused]] const auto told = write(request_descriptor, &one, sizeof one);
+  errno = error;
+}
+
+void end(int) {
+  _exit(0);
+}
 
 // What the process was told to ignore, under nohup for one, stays ignored.
 bool ignored(int number) {
@@ -15,40 +41,52 @@ bool ignored(int number) {
   return sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
+timer_t make_timer() {
+  sigevent event{};
+  event.sigev_notify = SIGEV_SIGNAL;
+  event.sigev_signo = SIGALRM;
+  timer_t timer{};
+  if (timer_create(CLOCK_MONOTONIC, &event, &timer) == 0) return timer;
+  throw std::system_error(errno, std::generic_category(), "no timer");
+}
+
 }  // namespace
 
-StopSignal::StopSignal() {
-  sigset_t watched;
-  sigemptyset(&watched);
+StopSignal::StopSignal()
+    : descriptor_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)), timer_(make_timer()) {
+  request_descriptor = descriptor_;
+  last_resort = timer_;
+  requested = false;
+  watch(SIGALRM, end);
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-    if (!ignored(number)) sigaddset(&watched, number);
+    if (!ignored(number)) watch(number, request);
   }
-  pthread_sigmask(SIG_BLOCK, &watched, &before_);
-  descriptor_ = signalfd(-1, &watched, SFD_NONBLOCK | SFD_CLOEXEC);
-  if (descriptor_ < 0) pthread_sigmask(SIG_SETMASK, &before_, nullptr);
 }
 
 StopSignal::~StopSignal() {
   notifier_.reset();
-  if (descriptor_ < 0) return;
-  drain();
+  for (const auto& [number, action] : before_) sigaction(number, &action, nullptr);
+  timer_delete(timer_);
   close(descriptor_);
-  pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+}
+
+// A call that was under way goes on after the handler: a save is no shorter for it.
+void StopSignal::watch(int number, void (*handler)(int)) {
+  struct sigaction action {};
+  action.sa_handler = handler;
+  action.sa_flags = SA_RESTART;
+  sigemptyset(&action.sa_mask);
+  before_.emplace_back(number, action);
+  sigaction(number, &action, &before_.back().second);
 }
 
 void StopSignal::listen(std::function<void()> stop) {
-  if (descriptor_ < 0) return;
   notifier_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
   QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                    [this, tell = std::move(stop)] {
-                     drain();
-                     tell();
+                     std::uint64_t count = 0;
+                     if (read(descriptor_, &count, sizeof count) == sizeof count) tell();
                    });
-}
-
-void StopSignal::drain() const {
-  signalfd_siginfo request;
-  while (read(descriptor_, &request, sizeof request) == sizeof request) continue;
 }
 
 }  // namespace tombrello::qt

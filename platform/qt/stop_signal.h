@@ -2,13 +2,20 @@
 
 #include <QSocketNotifier>
 #include <csignal>
+#include <ctime>
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace tombrello::qt {
 
-/// Requests to end the process (SIGTERM, SIGINT, SIGHUP), as an event like any other. Made
-/// before any thread is started, so that all of them leave these signals to it.
+/// Requests to end the process (SIGTERM, SIGINT, SIGHUP), as an event like any other. One in a
+/// process at a time.
+///
+/// Where the process hasn't ended 900 ms after the first request, because its thread is held up
+/// by a screen, another program's clipboard or a bus, it ends all the same, with status 0: a file
+/// is only ever replaced whole, and nothing is saved on leaving.
 class StopSignal {
  public:
   StopSignal();
@@ -20,10 +27,11 @@ class StopSignal {
   void listen(std::function<void()> stop);
 
  private:
-  void drain() const;
+  void watch(int number, void (*handler)(int));
 
-  sigset_t before_{};
   int descriptor_ = -1;
+  timer_t timer_{};
+  std::vector<std::pair<int, struct sigaction>> before_;
   std::unique_ptr<QSocketNotifier> notifier_;
 };
 

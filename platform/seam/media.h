@@ -5,7 +5,7 @@
 namespace tombrello {
 
 /// One media device: a wave device or a sequencer. It is given a file name and commands, and
-/// plays by itself. A command that fails does nothing and reports nothing.
+/// plays by itself. A command that fails does nothing; of a play alone `MediaEvents` hears it.
 class MediaControl {
  public:
   enum class Command { open, close, play };
@@ -26,8 +26,11 @@ class MediaControl {
 /// Where a device reports. Called from inside `Window::serve_events`, on the game's thread.
 class MediaEvents {
  public:
+  static constexpr int kEnded = 1;   ///< what was played came to its natural end
+  static constexpr int kFailed = 8;  ///< there is a device, and it can't play this file
+
   virtual ~MediaEvents() = default;
-  /// What was played came to its natural end: `code` is 1. Other codes mean nothing.
+  /// `code` is one of those above; others mean nothing.
   virtual void media_done(int code) = 0;
 };
 

@@ -8,6 +8,7 @@
 #include <random>
 
 #include "qt/audio/sdl_audio.h"
+#include "qt/audio/wave_check.h"
 #include "tests/sound/listening.h"
 #include "tools/sounds/sounds.h"
 
@@ -105,10 +106,15 @@ TEST(Waves, FilesThatAreNoneAreSilent) {
   Heard heard(6);
   heard.disk.put("sounds/broken.wav", "RIFF and nothing more");
   heard.disk.put("sounds/empty.wav", "");
+  std::string slow = sounds::wave_file(sounds::rustle());
+  slow[24] = 100;  // samples a second: six megabytes become gigabytes
+  slow[25] = 0;
+  slow[42] = 0x60;
+  heard.disk.put("sounds/slow.wav", slow + std::string(7 << 20, '\1'));
   std::filesystem::create_directories(heard.disk.folder() / "sounds/folder.wav");
   heard.audio.start();
   heard.await_wave_device();
-  for (const char* name : {"broken", "empty", "folder", "missing"}) {
+  for (const char* name : {"broken", "empty", "slow", "folder", "missing"}) {
     heard.open(heard.audio.wave(), std::string("sounds/") + name + ".wav");
     heard.audio.wave().command(Command::play);
   }
@@ -120,6 +126,49 @@ TEST(Waves, FilesThatAreNoneAreSilent) {
   heard.disk.pass(0.3);
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 1U);
   EXPECT_EQ(heard.system_beeps, 0);
+}
+
+TEST(WaveCheck, TakesWhatIsFitToBePlayed) {
+  struct Row {
+    int tag, channels, rate, bits, frames;
+    bool taken;
+  };
+  for (const auto& [tag, channels, rate, bits, frames, taken] :
+       {Row{1, 1, 44100, 16, 9, true},
+        {1, 2, 8000, 8, 1, true},
+        {1, 2, 192000, 32, 9, true},
+        {3, 1, 48000, 32, 9, true},
+        {1, 1, 8000, 8, 480'000, true},
+        {1, 1, 44100, 16, 0, false},
+        {1, 1, 7999, 16, 9, false},
+        {1, 1, 192001, 16, 9, false},
+        {1, 1, 8000, 8, 480'001, false},
+        {1, 0, 44100, 16, 9, false},
+        {1, 3, 44100, 16, 9, false},
+        {1, 1, 44100, 0, 9, false},
+        {1, 1, 44100, 12, 9, false},
+        {1, 1, 44100, 40, 9, false},
+        {3, 1, 44100, 16, 9, false},
+        {2, 1, 44100, 8, 9, false},
+        {0xFFFE, 1, 44100, 16, 9, false}}) {
+    std::string wave = sounds::wave_file({}).substr(0, 40);
+    const auto set = [&](std::size_t at, int value, int bytes) {
+      for (; bytes > 0; --bytes, value >>= 8) wave[at++] = static_cast<char>(value & 0xFF);
+    };
+    set(20, tag, 2);
+    set(22, channels, 2);
+    set(24, rate, 4);
+    set(34, bits, 2);
+    wave.insert(12, "LIST\3\0\0\0odd\0", 12);  // of no concern
+    const auto size = static_cast<std::size_t>(frames * channels * ((bits + 7) / 8));
+    wave += "\xFF\xFF\xFF\x7F" + std::string(size + (size > 1 && channels == 2 ? 1 : 0), 's');
+    const std::string plain = plain_wave(wave);
+    EXPECT_EQ(!plain.empty(), taken) << tag << ' ' << channels << ' ' << rate << ' ' << bits;
+    if (taken) {
+      EXPECT_EQ(plain.size(), 44 + size) << "whole frames";
+      EXPECT_EQ(plain_wave(plain), plain);
+    }
+  }
 }
 
 TEST(Tunes, TheEndOfAnOlderPlayMeansNothing) {
@@ -137,24 +186,42 @@ TEST(Tunes, TheEndOfAnOlderPlayMeansNothing) {
   EXPECT_TRUE(heard.ends.codes.empty());
 }
 
-TEST(Tunes, FilesThatAreNoneAreSilentAndNeverEnd) {
+TEST(Tunes, FilesThatAreNoneAreSilentAndSaidToBe) {
   Heard heard(6);
   const std::string whole = short_tune("a4:2 r", 120);
   heard.disk.put("music/empty.mid", "");
   heard.disk.put("music/broken.mid", whole.substr(0, whole.size() / 2));
   heard.disk.put("music/text.mid", "MThd? No.");
+  heard.disk.put("music/brief.mid",
+                 std::string("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\4\0\xFF\x2F\0", 26));
   heard.disk.put("music/huge.mid", whole);
   std::filesystem::resize_file(heard.disk.folder() / "music/huge.mid", 1UL << 33);
   std::filesystem::create_directories(heard.disk.folder() / "music/folder.mid");
   heard.audio.start();
-  for (const char* name : {"empty", "broken", "text", "huge", "folder", "missing"}) {
+  for (const char* name : {"empty", "broken", "text", "brief", "huge", "folder", "missing"}) {
     heard.play(std::string("music/") + name + ".mid");
-    std::this_thread::sleep_for(std::chrono::milliseconds(150));
-    EXPECT_FALSE(heard.woken) << name;
+    ASSERT_TRUE(heard.await_end()) << name;
+    heard.audio.deliver();
+    EXPECT_EQ(std::exchange(heard.ends.codes, {}), std::vector<int>{MediaEvents::kFailed}) << name;
   }
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 0U);
   heard.play("music/low.mid");
   EXPECT_TRUE(heard.await_end());
+}
+
+TEST(Tunes, AnInstrumentThatNobodyHasIsReplacedWithoutAWord) {
+  Heard heard(6);
+  heard.disk.put("music/odd.mid",
+                 std::string("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\x13"
+                             "\0\xB0\0\x33\0\xC0\x0A\0\x90\x45\x60\x40\x80\x45\0\0\xFF\x2F\0",
+                             41));
+  testing::internal::CaptureStderr();
+  heard.audio.start();
+  heard.play("music/odd.mid");
+  EXPECT_TRUE(heard.await_end());
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  heard.audio.deliver();
+  EXPECT_EQ(heard.ends.codes, std::vector<int>{MediaEvents::kEnded});
 }
 
 TEST(Tunes, ANoteThatNeverEndsIsEnded) {

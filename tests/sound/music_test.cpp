@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 
 #include "headless/headless_window.h"
@@ -132,6 +133,25 @@ TEST_F(MusicTest, AnOnlyTuneFollowsItself) {
   EXPECT_EQ(device.take(), plays("Aria"));
 }
 
+TEST_F(MusicTest, ATuneThatCantBePlayedGivesWayUntilNoneCan) {
+  load({"Aria.mid", "Ballo.mid", "Canto.mid"});
+  for (int again = 0; again < 2; ++again) {
+    music.all_Click();
+    music.media_done(MediaEvents::kFailed);
+    music.media_done(MediaEvents::kEnded);  // a good one between bad ones
+    music.media_done(MediaEvents::kFailed);
+    device.take();
+    music.media_done(MediaEvents::kFailed);
+    EXPECT_EQ(device.take(), plays("Ballo"));
+    music.media_done(MediaEvents::kFailed);
+    EXPECT_EQ(device.take(), Log{});
+  }
+  music.canzoni_Click(3);
+  device.take();
+  music.media_done(MediaEvents::kFailed);
+  EXPECT_EQ(device.take(), Log{}) << "a single tune has no next";
+}
+
 TEST_F(MusicTest, NoMusicStopsAtOnceAndItsCompletionMeansNothing) {
   load({"Aria.mid", "Ballo.mid"}, 101);
   device.take();
@@ -165,7 +185,7 @@ TEST_F(MusicTest, ClicksAndCompletionsInAnyOrderAgree) {
     if (choice == 0) music.nomusic_Click();
     if (choice == 1) music.all_Click();
     if (choice == 2) music.canzoni_Click(below(7));
-    if (choice > 2) music.media_done(below(3));
+    if (choice > 2) music.media_done(std::array{0, 1, 2, 8}[chance() % 4]);
     const bool all = window.checked(kEntries.all);
     ASSERT_EQ(checks().size(), all ? 2U : 1U) << "step " << step;
     ASSERT_EQ(brano, all ? checks()[1] - 20 : 0) << "step " << step;

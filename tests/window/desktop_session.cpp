@@ -323,12 +323,16 @@ void DesktopSession::send(int signal) const {
   kill(static_cast<pid_t>(game->processId()), signal);
 }
 
-void DesktopSession::expect_quiet_end() {
+void DesktopSession::freeze_screen() const {
+  kill(static_cast<pid_t>(screen_->processId()), SIGSTOP);
+}
+
+void DesktopSession::expect_quiet_end(Milliseconds most) {
   const auto asked = Clock::now();
   ASSERT_TRUE(game->waitForFinished(kPatience * 10000)) << "it goes on";
   const auto took = std::chrono::duration_cast<Milliseconds>(Clock::now() - asked);
   RecordProperty("ended_after_ms", static_cast<int>(took.count()));
-  EXPECT_LT(took.count(), kPatience * 1000);
+  EXPECT_LT(took, kPatience * most);
   EXPECT_EQ(game->exitStatus(), QProcess::NormalExit);
   EXPECT_EQ(game->exitCode(), 0);
   listen(0);

@@ -94,9 +94,10 @@ class DesktopSession : public ::testing::Test {
   void dismiss_opening();
 
   /// The game ends soon, with status 0 and without a word.
-  void expect_quiet_end();
+  void expect_quiet_end(Milliseconds most = Milliseconds(1000));
   void expect_still_running();
   void send(int signal) const;
+  void freeze_screen() const;  ///< from here on it answers nobody
   std::string file(const std::string& name) const;
   int pixel(const Shot& shot, float x, float y);
 

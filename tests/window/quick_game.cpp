@@ -184,15 +184,15 @@ int main(int argc, char** argv) {
   using namespace tombrello::qt;
   Desktop desktop(argc, argv, art::draw_picture, art::draw_icon());
   if (argc != 5) return 2;
-  const QString folder = argv[1];
-  DiskArchive archive(folder, folder + "/user");
+  const std::filesystem::path folder = argv[1];
+  DiskArchive archive(folder, folder / "user");
   CountingClock clock(std::strtoull(argv[2], nullptr, 10));
   const State* state = nullptr;
   QuickTimer timer(desktop.timer(), [&] {
     return std::atoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]);
   });
   Program program({desktop.window(), timer, archive, clock, desktop.wave(), desktop.sequencer(),
-                   desktop.beeper()});
+                   desktop.beeper(), capital});
   desktop.set_media_events(&program);
   state = &program.state();
   Teller deck;

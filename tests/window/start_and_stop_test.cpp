@@ -1,4 +1,7 @@
 #include <signal.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <fstream>
@@ -135,6 +138,13 @@ TEST_F(StopOver, ATerminationSignalUnderTheQuestionAndUnderAMenu) {
   expect_quiet_end();
 }
 
+TEST_F(StopOver, ATerminationSignalWhileTheScreenAnswersNobody) {
+  start_quick();
+  freeze_screen();
+  send(SIGTERM);
+  expect_quiet_end(Milliseconds(2500));
+}
+
 using Shipped = PlayingSession;
 
 // Nobody tells here what the game does: the picture does.
@@ -168,6 +178,22 @@ TEST_F(Shipped, OpensDealsAndCloses) {
   close_by_frame();
   expect_quiet_end();
   EXPECT_EQ(out, "");
+}
+
+// As a bus does that hangs: it takes calls, and never says a word.
+TEST_F(Shipped, StartsWithoutASignOfTheSessionBus) {
+  sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+  const std::string path = folder / "bus";
+  path.copy(address.sun_path, sizeof address.sun_path - 1);
+  const int bus = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  ASSERT_EQ(bind(bus, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  ASSERT_EQ(::listen(bus, 8), 0);
+  environment.insert("DBUS_SESSION_BUS_ADDRESS", QString::fromStdString("unix:path=" + path));
+  start_shipped();
+  EXPECT_EQ(pixel(settled_shot(), 30, 300), 0xC0C0C0);
+  close_by_frame();
+  expect_quiet_end();
+  close(bus);
 }
 
 TEST_F(Shipped, StartsWhateverLiesInTheSettingsFilesPlace) {

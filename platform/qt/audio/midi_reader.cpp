@@ -1,8 +1,8 @@
 #include "qt/audio/midi_reader.h"
 
 #include <algorithm>
-#include <stdexcept>
-#include <string_view>
+
+#include "qt/audio/bytes.h"
 
 namespace tombrello::qt {
 namespace {
@@ -10,41 +10,15 @@ namespace {
 constexpr int kTempo = 0x51;
 constexpr int kEndOfTrack = 0x2f;
 
-/// Reads on in bytes that it doesn't trust; throws where they end.
-class Bytes {
- public:
-  explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
-
-  bool empty() const { return bytes_.empty(); }
-
-  std::string_view take(std::size_t count) {
-    if (count > bytes_.size()) throw std::out_of_range("cut off");
-    const auto taken = bytes_.substr(0, count);
-    bytes_.remove_prefix(count);
-    return taken;
+std::uint32_t variable_number(Bytes& in) {
+  std::uint32_t value = 0;
+  for (int i = 0; i < 4; ++i) {
+    const std::uint32_t byte = in.number(1);
+    value = value << 7 | (byte & 0x7f);
+    if (byte < 0x80) return value;
   }
-
-  std::uint32_t number(std::size_t count) {
-    std::uint32_t value = 0;
-    for (const char byte : take(count)) value = value << 8 | static_cast<std::uint8_t>(byte);
-    return value;
-  }
-
-  int peek() const { return bytes_.empty() ? 0 : static_cast<std::uint8_t>(bytes_.front()); }
-
-  std::uint32_t variable() {
-    std::uint32_t value = 0;
-    for (int i = 0; i < 4; ++i) {
-      const std::uint32_t byte = number(1);
-      value = value << 7 | (byte & 0x7f);
-      if (byte < 0x80) return value;
-    }
-    throw std::out_of_range("number too long");
-  }
-
- private:
-  std::string_view bytes_;
-};
+  throw std::out_of_range("number too long");
+}
 
 class TrackReader {
  public:
@@ -53,12 +27,12 @@ class TrackReader {
 
   void read() {
     while (!ended_) {
-      tick_ += in_.variable();
+      tick_ += variable_number(in_);
       if (in_.peek() >= 0x80) status_ = static_cast<int>(in_.number(1));
       if (status_ == 0xff) {
         read_meta();
       } else if (status_ >= 0xf0) {
-        in_.take(in_.variable());
+        in_.take(variable_number(in_));
       } else {
         read_channel_event();
       }
@@ -68,7 +42,7 @@ class TrackReader {
  private:
   void read_meta() {
     const int kind = static_cast<int>(in_.number(1));
-    Bytes content(in_.take(in_.variable()));
+    Bytes content(in_.take(variable_number(in_)));
     const std::uint32_t tempo = kind == kTempo ? content.number(3) : 0;
     events_.push_back({tick_, track_, 0xff, kind, 0, tempo});
     ended_ = kind == kEndOfTrack;

@@ -56,7 +56,8 @@ void SdlAudio::start() {
 }
 
 void SdlAudio::deliver() {
-  if (sequencer_.take_end() && events_ != nullptr) events_->media_done(1);
+  const int code = sequencer_.take_done();
+  if (code != 0 && events_ != nullptr) events_->media_done(code);
 }
 
 }  // namespace tombrello::qt

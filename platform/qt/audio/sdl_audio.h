@@ -26,14 +26,14 @@ class SdlAudio {
   SdlSequencer& sequencer() { return sequencer_; }
   Beeper& beeper() { return wave_; }
 
-  /// Who hears of the natural end of a tune; null for nobody.
+  /// Who hears that a tune has ended or can't be played; null for nobody.
   void set_events(MediaEvents* events) { events_ = events; }
 
   /// Opens the audio device and carries out what was told before. To be called once the window
   /// has been painted; calls after the first do nothing.
   void start();
 
-  /// Tells the end of a tune to the events.
+  /// Tells the events how a tune is done, if one is.
   void deliver();
 
  private:

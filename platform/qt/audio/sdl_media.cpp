@@ -58,14 +58,17 @@ class Player {
   Player(SdlMixerDevice& device, const std::filesystem::path& folder)
       : device_(device), folder_(folder) {}
 
-  void start(const std::string& file) {
+  /// `kFailed` if it is the file's fault that nothing plays, otherwise 0.
+  int start(const std::string& file) {
     stop();
     if (!file.empty()) lease_ = device_.lease();
-    if (lease_ == nullptr) return;
+    if (lease_ == nullptr || !device_.plays_tunes()) return 0;
     double seconds = 0;
     tune_ = device_.load_tune(folder_ / file, seconds);
     latest_end_ = latest_end(seconds);
-    if (tune_ == nullptr || !device_.play(*tune_)) stop();
+    if (tune_ != nullptr && device_.play(*tune_)) return 0;
+    stop();
+    return MediaEvents::kFailed;
   }
 
   bool playing() const { return tune_ != nullptr; }
@@ -196,9 +199,10 @@ void SdlSequencer::want(const std::string& file) {
   box_->changed.notify_all();
 }
 
-bool SdlSequencer::take_end() {
+int SdlSequencer::take_done() {
   const std::lock_guard lock(box_->mutex);
-  return std::exchange(box_->ended, 0) == box_->number && box_->number != 0;
+  const bool of_last = std::exchange(box_->done, 0) == box_->number && box_->number != 0;
+  return of_last ? box_->code : 0;
 }
 
 // Listens to whether the tune still plays instead of being told: the mixer tells it under locks
@@ -219,11 +223,11 @@ void SdlSequencer::serve(Box& box, SdlMixerDevice& device, const std::filesystem
     const std::string file = box.file;
     served = box.number;
     lock.unlock();
-    if (wanted) player.start(file);
-    const bool ended = !wanted && player.came_to_end();
+    const int code = wanted ? player.start(file) : player.came_to_end() ? MediaEvents::kEnded : 0;
     lock.lock();
-    if (!ended) continue;
-    box.ended = served;
+    if (code == 0) continue;
+    box.done = served;
+    box.code = code;
     if (box.wake && !box.leaving) box.wake();
   }
 }

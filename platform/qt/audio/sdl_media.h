@@ -71,7 +71,8 @@ class SdlSequencer : public MediaControl {
   struct Box : MediaBox {
     int number = 0;    ///< of the last command; a later one makes what came before void
     std::string file;  ///< what that command wants to hear; empty for silence
-    int ended = 0;     ///< number of the last play that came to its end
+    int done = 0;      ///< number of the last play that came to its end, or couldn't begin
+    int code = 0;      ///< how that went, as `MediaEvents` has it
     std::function<void()> wake;
   };
 
@@ -84,8 +85,9 @@ class SdlSequencer : public MediaControl {
   void set_opening_option(int) override {}
   void set_start_option(int) override {}
 
-  /// True if the tune that was played last has come to its end and nobody was told yet.
-  bool take_end();
+  /// How the tune that was played last is done, as `MediaEvents` has it; 0 while it isn't, or
+  /// once that was told.
+  int take_done();
 
   const std::shared_ptr<Box>& box() const { return box_; }
   /// What its thread does.

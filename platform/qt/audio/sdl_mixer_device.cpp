@@ -3,11 +3,13 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
 #include <alsa/asoundlib.h>
+#include <fluidsynth.h>
 
 #include <fstream>
 #include <optional>
 
 #include "qt/audio/midi_reader.h"
+#include "qt/audio/wave_check.h"
 
 namespace tombrello::qt {
 namespace {
@@ -39,7 +41,7 @@ bool choose_soundfont() {
   return false;
 }
 
-// Where there is no device, SDL and the library behind it would say so on standard error, in many
+// Where there is no device, SDL and the libraries behind it would say so on standard error, in many
 // lines.
 void say_nothing(const char*, int, const char*, int, const char*, ...) {}
 void log_nothing(void*, int, SDL_LogPriority, const char*) {}
@@ -104,6 +106,9 @@ bool SdlMixerDevice::open() {
   SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Tombrello");
   SDL_LogSetOutputFunction(log_nothing, nullptr);
   snd_lib_error_set_handler(say_nothing);
+  for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG}) {
+    fluid_set_log_function(level, nullptr, nullptr);
+  }
   // Not kept through a rest or without a device: it may look out for devices ten times a second.
   if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
   // One format for ever: what was loaded stays fit to be played after a rest.
@@ -118,8 +123,8 @@ bool SdlMixerDevice::open() {
 }
 
 Chunk SdlMixerDevice::load_wave(const fs::path& file) {
-  const auto bytes = read_file(file, kMostWave);
-  return Chunk(bytes ? Mix_LoadWAV_RW(stream(*bytes), 1) : nullptr);
+  const std::string wave = plain_wave(read_file(file, kMostWave).value_or(""));
+  return Chunk(wave.empty() ? nullptr : Mix_LoadWAV_RW(stream(wave), 1));
 }
 
 void SdlMixerDevice::play(Mix_Chunk& wave) {
@@ -131,8 +136,8 @@ Tune SdlMixerDevice::load_tune(const fs::path& file, double& seconds) {
   const auto bytes = has_font_ ? read_file(file, kMostTune) : std::nullopt;
   if (!bytes) return nullptr;
   const auto midi = read_midi(*bytes);
-  if (!midi) return nullptr;
-  seconds = midi->seconds();
+  seconds = midi ? midi->seconds() : 0;
+  if (seconds <= 0) return nullptr;
   return Tune(Mix_LoadMUSType_RW(stream(*bytes), MUS_MID, 1));
 }
 

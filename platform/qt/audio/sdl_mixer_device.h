@@ -48,12 +48,14 @@ class SdlMixerDevice {
 
   // All calls below rely on a lease.
 
-  /// Null if the file isn't a wave file of a few megabytes at most.
+  /// Null if the file isn't a wave file that is fit to be played, of a few megabytes at most.
   Chunk load_wave(const std::filesystem::path& file);
   /// From its beginning, beside everything that sounds already.
   void play(Mix_Chunk& wave);
 
-  /// Null if the file isn't a MIDI file of at most a megabyte, or no soundfont is installed.
+  /// A soundfont is installed. Without one no tune can be loaded.
+  bool plays_tunes() const { return has_font_; }
+  /// Null if the file isn't a MIDI file of at most a megabyte, or lasts no time.
   /// `seconds` becomes the time that it lasts.
   Tune load_tune(const std::filesystem::path& file, double& seconds);
   /// One tune plays at a time. False if it can't.
