@@ -20,7 +20,12 @@ inline constexpr const char* kHelpText =
     "\n"
     "Per attaccare\n"
     "Selezionate una sola carta con il tasto destro, poi fate clic con il tasto sinistro su una "
-    "carta della combinazione a cui volete aggiungerla.";
+    "carta della combinazione a cui volete aggiungerla.\n"
+    "\n"
+    "Con la tastiera\n"
+    "Le frecce e Tab spostano il segno tra i punti in cui si può agire: Invio è il tasto sinistro, "
+    "la barra spaziatrice il destro. Mentre giocano gli altri, la barra tenuta premuta accelera. "
+    "Ai punti Invio continua. F1 ed Esc aprono e chiudono questo aiuto.";
 
 inline constexpr const char* kRulesText =
     "LE REGOLE\n"

@@ -96,4 +96,13 @@ void Program::field_confirmed(ControlId) {
   names_.end(true);
 }
 
+// What can't be kept is said once; the game goes on.
+void Program::Set_Write() {
+  settings_.Set_Write();
+  const std::string complaint = settings_.complaint();
+  if (complaint.empty() || has_complained_) return;
+  has_complained_ = true;
+  chronicle_.remark(complaint);
+}
+
 }  // namespace tombrello

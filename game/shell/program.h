@@ -67,7 +67,7 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
 
   void media_done(int code) override { music_.media_done(code); }
 
-  void Set_Write() override { settings_.Set_Write(); }
+  void Set_Write() override;
   void enable_replay(bool enabled) override { window_.set_enabled(menu_replay, enabled); }
   void enable_continue(bool enabled) override { window_.set_enabled(menu_continue, enabled); }
   void enable_names(bool enabled) override { window_.set_enabled(personalize_players, enabled); }
@@ -110,6 +110,7 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   Effects effects_;
   Music music_;
   Rules rules_;
+  bool has_complained_ = false;  ///< that settings can't be kept
 };
 
 }  // namespace tombrello

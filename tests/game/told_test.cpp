@@ -1,0 +1,209 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <random>
+
+#include "tests/game/game.h"
+#include "tests/rules/cards.h"
+#include "told/refusals.h"
+
+namespace tombrello {
+namespace {
+
+std::vector<std::int16_t> some(const std::string& names) {
+  const auto codes = test::cards(names);
+  return {codes.begin(), codes.end()};
+}
+
+class ChronicleTest : public testing::Test {
+ protected:
+  ChronicleTest() {
+    s_.nomi = {"TU", "OVEST", "NORD", "EST"};
+    s_.squadre = {"TU-NORD", "OVEST-EST"};
+    s_.phase = Phase::hand;
+    s_.di_turno = 2;
+  }
+  std::string now() {
+    chronicle_.show();
+    return window_.told_now;
+  }
+  std::string then() {
+    chronicle_.show();
+    return window_.told_then;
+  }
+
+  State s_;
+  HeadlessTimer timer_;
+  HeadlessWindow window_{timer_};
+  Chronicle chronicle_{s_, window_};
+};
+
+TEST_F(ChronicleTest, TellsWhatTheOthersDidSinceTheOwnDiscard) {
+  chronicle_.drew(4, 0);
+  chronicle_.discarded(4, 1);
+  chronicle_.drew(1, 0);
+  chronicle_.laid(1, 1, some("2h 3h 4h"));
+  chronicle_.discarded(1, 5);
+  EXPECT_EQ(then(), "") << "the player's own deeds are known";
+  chronicle_.drew(2, 35);
+  chronicle_.laid(2, 2, some("6h 7h 8h"));
+  chronicle_.discarded(2, 35);
+  chronicle_.drew(3, 0);
+  chronicle_.discarded(3, 1);
+  chronicle_.reshuffled();
+  chronicle_.drew(4, 0);
+  chronicle_.added(4, 2, 43);
+  chronicle_.discarded(4, 15);
+  EXPECT_EQ(then(),
+            "OVEST: Pozzo, cala 6♥ 7♥ 8♥, scarta 9♣ · NORD: Tallone, scarta A♥ · il Pozzo si "
+            "rimescola · EST: Tallone, attacca 4♠, scarta 2♦");
+  chronicle_.went_out(4);
+  chronicle_.counted_double(2);
+  EXPECT_TRUE(then().ends_with(" · EST chiude · punti raddoppiati per OVEST-EST"));
+}
+
+TEST_F(ChronicleTest, TellsWhatCanBeDoneNow) {
+  EXPECT_EQ(now(), "Gioca OVEST");
+  s_.di_turno = 1;
+  s_.n_mano[1] = 13;
+  EXPECT_EQ(now(), "Tocca a te: pesca dal Pozzo o dal Tallone");
+  s_.ha_pescato = true;
+  EXPECT_EQ(now(), "Scarta (clic) o seleziona le carte da calare (tasto destro)");
+  s_.mano[1][1] = 1 + kSelected;
+  EXPECT_EQ(now(), "Attaccala: clic sulla metà bassa di una combinazione");
+  s_.mano[1][2] = 2 + kSelected;
+  EXPECT_EQ(now(), "Selezionane almeno una terza per calare");
+  s_.mano[1][3] = 3 + kSelected;
+  EXPECT_EQ(now(), "Cala: clic dove appare la freccia, da te o dal compagno");
+  s_.mano = {};
+  s_.n_mano[1] = 1;
+  EXPECT_EQ(now(), "Ultima carta: fai clic per scartarla e chiudere");
+  s_.phase = Phase::draw;
+  s_.di_turno = 3;
+  EXPECT_EQ(now(), "Scelta del cartaro: fai clic sul mazzo per la carta di NORD");
+  s_.phase = Phase::deal;
+  s_.cartaro = 4;
+  EXPECT_EQ(now(), "EST dà le carte");
+}
+
+TEST_F(ChronicleTest, TellsTheCountAndWhoHasWon) {
+  s_.phase = Phase::count;
+  s_.punti_totali = {0, 340, -25};
+  EXPECT_EQ(now(), "TU-NORD 340 · OVEST-EST -25. Invio per continuare, o Partita, Continua");
+  s_.phase = Phase::match_over;
+  s_.punti_totali = {0, 1540, 1600};
+  EXPECT_EQ(now(), "Partita a OVEST-EST. TU-NORD 1540 · OVEST-EST 1600");
+  s_.numero_mano = 2;
+  s_.punti_totali = {0, 1540, 900};
+  EXPECT_EQ(now(), "Avete vinto la partita! TU-NORD 1540 · OVEST-EST 900");
+}
+
+TEST_F(ChronicleTest, ARemarkGoesWithItsMoment) {
+  s_.di_turno = 1;
+  s_.ha_pescato = true;
+  s_.n_mano[1] = 14;
+  s_.mano[1][1] = 1 + kSelected;
+  now();
+  s_.mano[1][1] = 1;
+  chronicle_.refused(Refusal::two_cards, some("Ah 2h"), {});
+  const std::string refusal = now();
+  EXPECT_TRUE(refusal.starts_with("Due carte sole non si calano")) << refusal;
+  EXPECT_EQ(now(), refusal);
+  s_.mano[1][1] = 1 + kSelected;
+  EXPECT_NE(now(), refusal);
+}
+
+TEST(Refusals, SayWhyCardsDropBack) {
+  const auto said = [](Refusal why, const char* names, const char* meld = "") {
+    return sentence_of(why, some(names), some(meld));
+  };
+  EXPECT_EQ(said(Refusal::does_not_fit, "10s", "6c 7c 8c"), "10♠ non si attacca a 6♣ 7♣ 8♣");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 8h 9h"), "Quasi una scala: manca 7♥");
+  EXPECT_EQ(said(Refusal::not_a_meld, "Qh Kh 2h"), "Quasi una scala: manca A♥");
+  EXPECT_EQ(said(Refusal::not_a_meld, "2h 6h 9h"), "Non è una scala: le carte non sono in fila");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 7h 8d"), "Quasi una scala: 8♦ è di un altro seme");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 6h 7h"), "Quasi una scala: una carta c'è due volte");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 6d 7s"), "Quasi un tris: 7♠ è di un altro valore");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 6d 6d"),
+            "Tris e poker vogliono semi diversi: qui un seme c'è due volte");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 9d 10s"), "Non è né un tris, né un poker, né una scala");
+  for (const char* good : {"6h 7h 8h", "6h 6d 6s", "Qh Kh Ah"}) {
+    EXPECT_EQ(said(Refusal::not_a_meld, good),
+              "La combinazione è buona, ma una già calata qui non ne ammette altre");
+  }
+}
+
+// Chance presses anywhere, turn by turn: where there is a mark a press acts, elsewhere none does.
+TEST(Marked, APressActsJustWhereThereIsAMark) {
+  Game game(5);
+  std::minstd_rand chance(3);
+  int marked = 0;
+  int unmarked = 0;
+  std::function<void()> press = [&] {
+    if (game.is_own_turn() && game.s().phase == Phase::hand) {
+      const auto x = static_cast<float>(chance() % 800);
+      const auto y = static_cast<float>(chance() % 600);
+      game.window.move(x, y);
+      const bool mark = game.window.mark.has_value();
+      const bool drawn = game.s().ha_pescato;
+      const bool right = drawn && chance() % 2 == 0 && game.s().n_mano[1] > 1;
+      const bool none_selected = std::none_of(game.s().mano[1].begin(), game.s().mano[1].end(),
+                                              [](int card) { return card > kSelected; });
+      game.window.press(x, y, right ? Button::right : Button::left);
+      const int code = game.s().azione;
+      const bool lays = code == kLayOwnSide || code == kLayPartnerSide;
+      const bool acts = code != kNoAction && !lays;
+      EXPECT_TRUE(mark || !acts) << x << "," << y;
+      // On the fan under the up arrow a left press lays nothing, and a right one selects.
+      const bool either = right || !drawn;
+      EXPECT_TRUE(!mark || acts || !none_selected || !either) << x << "," << y;
+      ++(mark ? marked : unmarked);
+    } else {
+      game.act();
+    }
+    if (marked + unmarked < 4000) game.window.script.push_back(press);
+  };
+  game.then(press).play();
+  EXPECT_GT(marked, 100);
+  EXPECT_GT(unmarked, 100);
+}
+
+// With keys alone: the opening, the draw, cards drawn, selected, discarded, "Continua".
+TEST(Keys, PlayHandsWithoutTheMouse) {
+  Game game(7);
+  std::minstd_rand chance(1);
+  int selected = 0;
+  std::function<void()> press = [&] {
+    game.window.key(chance() % 2 == 0 ? Key::next : Key::up);
+    const bool own = game.s().phase == Phase::hand && game.s().ha_pescato;
+    const bool select = own && chance() % 4 == 0;
+    game.window.key(select ? Key::space : Key::enter);
+    if (game.s().azione == kSelect) ++selected;
+    if (game.s().numero_mano < 3) game.window.script.push_back(press);
+  };
+  game.then(press).play();
+  EXPECT_EQ(game.s().numero_mano, 3);
+  EXPECT_GT(selected, 5);
+}
+
+// A pause passes at once while the space bar is down, the one that runs too.
+TEST(Keys, SpaceHurriesTheOthers) {
+  Game game;
+  int pauses = 0;
+  int slow = 0;
+  int quick = 0;
+  game.window.on_pass = [&] {
+    if (!game.timer.running() || game.s().phase != Phase::deal) return;
+    const bool held = ++pauses > 10 && pauses < 40;
+    game.window.hold(Key::space, held);
+    if (held && game.timer.period() == 0) ++quick;
+    if (!held && game.timer.period() > 0) ++slow;
+  };
+  game.dismiss().press_deck(4).until_own_turn().play();
+  EXPECT_GT(quick, 12);
+  EXPECT_GT(slow, 10);
+}
+
+}  // namespace
+}  // namespace tombrello
