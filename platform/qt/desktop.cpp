@@ -4,6 +4,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 
 namespace tombrello::qt {
 namespace {
@@ -52,7 +53,7 @@ Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& 
       archive_(QCoreApplication::applicationDirPath(), user_folder()),
       audio_(
           QCoreApplication::applicationDirPath().toStdString(), [this] { wake_for_audio(); },
-          QApplication::beep) {
+          QApplication::beep, std::random_device()()) {
   qInstallMessageHandler(messages_);
   window_.after_first_paint([this] { audio_.start(); });
   stop_signal_.listen([this] { window_.stop(); });
