@@ -1,3 +1,4 @@
+#include <fluidsynth.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -66,6 +67,49 @@ TEST_P(TuneTest, ClosesEveryNoteAndEndsEachTrackWithAllNotesOff) {
     EXPECT_EQ(last.status & 0xf0, 0xb0);
     EXPECT_EQ(last.first, 123) << "notes left on in track " << track;
   }
+}
+
+// Nobody waits before a tune, nor for long after it.
+TEST_P(TuneTest, BeginsAtOnceAndEndsWithItsSound) {
+  auto midi = read_midi(bytes_of(GetParam()));
+  ASSERT_TRUE(midi.has_value());
+  std::int64_t first = 1'000'000, last = 0;
+  for (const MidiEvent& event : midi->events) {
+    if ((event.status & 0xf0) == 0x90) first = std::min(first, event.tick);
+    if ((event.status & 0xf0) == 0x80) last = std::max(last, event.tick);
+  }
+  EXPECT_EQ(first, 0);
+  const double whole = midi->seconds();
+  std::erase_if(midi->events, [&](const MidiEvent& event) { return event.tick > last; });
+  EXPECT_LE(whole - midi->seconds(), 2);
+}
+
+/// As the soundfont plays it, in decibels below full scale, over all of the tune.
+double heard_level(const std::string& tune) {
+  fluid_settings_t* const settings = new_fluid_settings();
+  fluid_settings_setnum(settings, "synth.sample-rate", 22050);
+  fluid_settings_setint(settings, "synth.reverb.active", 0);
+  fluid_settings_setint(settings, "synth.chorus.active", 0);
+  fluid_synth_t* const synth = new_fluid_synth(settings);
+  EXPECT_NE(fluid_synth_sfload(synth, "/usr/share/sounds/sf2/TimGM6mb.sf2", 1), FLUID_FAILED);
+  fluid_player_t* const player = new_fluid_player(synth);
+  fluid_player_add_mem(player, tune.data(), tune.size());
+  fluid_player_play(player);
+  double power = 0;
+  std::size_t count = 0;
+  for (float left[1024], right[1024]; fluid_player_get_status(player) == FLUID_PLAYER_PLAYING;) {
+    fluid_synth_write_float(synth, 1024, left, 0, 1, right, 0, 1);
+    for (int i = 0; i < 1024; ++i) power += left[i] * left[i] + right[i] * right[i];
+    count += 2 * 1024;
+  }
+  delete_fluid_player(player);
+  delete_fluid_synth(synth);
+  delete_fluid_settings(settings);
+  return 10 * std::log10(power / static_cast<double>(count));
+}
+
+TEST_P(TuneTest, IsAsLoudAsTheOthers) {
+  EXPECT_NEAR(heard_level(bytes_of(GetParam())), -37.5, 1.5);  // within 3 dB of each other
 }
 
 TEST_P(TuneTest, SuitsACardTable) {
@@ -176,6 +220,65 @@ TEST(Sounds, TakesDifferALittleAndSignalsDoNotStartle) {
   }
 }
 
+/// Four bars of melody and chords, three times over; `how` is said of the second time.
+music::Arrangement played_thrice(const std::string& how) {
+  const std::string pass = "play a melody=flute waltz=guitar ";
+  return music::arrange(
+      music::read_score("tempo 120\nsection a\nmelody c5:4 d5 e5 f5 | g5 f5 e5 d5\n"
+                        "melody c5 d5 e5 f5 | g5 f5 e5 d5\n"
+                        "chords C | G | C | G\n" +
+                        pass + "\n" + pass + how + "\n" + pass + "\n"));
+}
+
+double mean_velocity(const std::vector<music::Played>& notes, std::size_t from, std::size_t to) {
+  double sum = 0;
+  for (std::size_t i = from; i < to; ++i) sum += notes[i].velocity;
+  return sum / static_cast<double>(to - from);
+}
+
+TEST(Hands, PlayNoPassTwiceAlikeAndStayNearTheScore) {
+  const auto notes = played_thrice("").instruments.at("flute");
+  ASSERT_EQ(notes.size(), 48U);
+  constexpr int pass = 4 * 4 * music::kQuarter;
+  for (const auto& [one, other] : {std::pair{0U, 16U}, {0U, 32U}, {16U, 32U}}) {
+    int later = 0, harder = 0;
+    for (unsigned i = 0; i < 16; ++i) {
+      const int moved =
+          notes[other + i].start - notes[one + i].start - static_cast<int>(other - one) / 16 * pass;
+      later += moved != 0;
+      harder += notes[other + i].velocity != notes[one + i].velocity;
+      EXPECT_LE(std::abs(moved), 16);
+      EXPECT_LE(std::abs(notes[other + i].velocity - notes[one + i].velocity), 6);
+    }
+    EXPECT_GT(later, 8);
+    EXPECT_GT(harder, 8);
+  }
+}
+
+TEST(Hands, SwellWithThePhraseAndPlayASecondPassSofter) {
+  const auto notes = played_thrice("soft").instruments.at("flute");
+  EXPECT_GT(mean_velocity(notes, 6, 10), mean_velocity(notes, 0, 3) + 4);
+  EXPECT_GT(mean_velocity(notes, 6, 10), mean_velocity(notes, 13, 16) + 4);
+  EXPECT_LT(mean_velocity(notes, 16, 32), mean_velocity(notes, 0, 16) - 4);
+}
+
+TEST(Hands, SpreadTheChordsOfTheGuitar) {
+  const auto notes = played_thrice("").instruments.at("guitar");
+  const int spread = 8 * 120 * music::kQuarter / 60'000;  // 8 ms in ticks
+  for (std::size_t i = 0; i + 2 < notes.size(); i += 3) {
+    EXPECT_EQ(notes[i + 1].start - notes[i].start, spread);
+    EXPECT_EQ(notes[i + 2].start - notes[i].start, 2 * spread);
+    EXPECT_LT(notes[i].pitch, notes[i + 2].pitch);
+  }
+}
+
+TEST(Hands, SlowDownInSixSteps) {
+  const auto tune = played_thrice("ritard");
+  ASSERT_EQ(tune.tempos.size(), 8U);  // before, six steps, and in time again
+  for (std::size_t i = 1; i < 7; ++i) EXPECT_LT(tune.tempos[i].tempo, tune.tempos[i - 1].tempo);
+  EXPECT_EQ(tune.tempos[7].tempo, 120);
+}
+
 TEST(Scores, MistakesAreNamedWithTheirLine) {
   const auto mistake = [](const std::string& text) -> std::string {
     try {
@@ -197,7 +300,7 @@ TEST(MidiReader, TimeFollowsEveryChangeOfTempo) {
       "tempo 60\nsection a\nmelody c4:1\nplay a melody=flute\nplay a melody=flute tempo=120\n");
   const auto midi = read_midi(music::midi_file(music::arrange(tune)));
   ASSERT_TRUE(midi.has_value());
-  EXPECT_NEAR(midi->seconds(), 4 + 2 + 2, 0.01);  // and a bar to ring out
+  EXPECT_NEAR(midi->seconds(), 4 + 2 + 0.5, 0.02);  // and half a second to ring out
 }
 
 TEST(MidiReader, DamagedFilesAreRefusedOrReadButNeverUpsetIt) {
