@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <complex>
 #include <filesystem>
@@ -120,7 +121,7 @@ TEST_P(TuneTest, SuitsACardTable) {
   for (const MidiEvent& event : midi->events) {
     if (event.tempo > 0) {
       EXPECT_GE(60e6 / event.tempo, 40);
-      EXPECT_LE(60e6 / event.tempo, 132);
+      EXPECT_LE(60e6 / event.tempo, 180);
     }
     if ((event.status & 0xf0) == 0x90) {
       EXPECT_GE(event.first, 33) << "too low to be heard";
@@ -133,7 +134,8 @@ TEST_P(TuneTest, SuitsACardTable) {
 INSTANTIATE_TEST_SUITE_P(Music, TuneTest, testing::ValuesIn(files_in(kRoot / "assets/music")),
                          [](const auto& tune) {
                            std::string name = tune.param.stem().string();
-                           std::erase(name, ' ');
+                           std::erase_if(name,
+                                         [](unsigned char c) { return std::isalnum(c) == 0; });
                            return name;
                          });
 
@@ -145,7 +147,13 @@ TEST(Tunes, EachScoreHasItsTuneAndNothingElseLiesThere) {
     tunes.push_back(file.filename().string());
   std::sort(scores.begin(), scores.end());
   EXPECT_EQ(scores, tunes);
-  EXPECT_GE(tunes.size(), 6U);
+}
+
+TEST(Tunes, FillAnEveningWithoutComingRoundTooSoon) {
+  double seconds = 0;
+  for (const fs::path& file : files_in(kRoot / "assets/music"))
+    seconds += read_midi(bytes_of(file)).value().seconds();
+  EXPECT_GE(seconds, 45 * 60);
 }
 
 /// Decibels of the loudest tenth of a second, which is what an ear compares.

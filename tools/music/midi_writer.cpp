@@ -119,7 +119,7 @@ Instrument instrument(const std::string& name) {
       {"guitar", {24, 98, 48, false}},      {"harp", {46, 86, 80, false}},
       {"harpsichord", {6, 118, 74, false}}, {"horn", {60, 84, 72, true}},
       {"musicbox", {10, 88, 64, false}},    {"oboe", {68, 74, 60, true}},
-      {"piano", {0, 90, 64, false}},        {"pizzicato", {45, 92, 70, false}},
+      {"piano", {0, 118, 64, false}},       {"pizzicato", {45, 92, 70, false}},
       {"recorder", {74, 84, 58, true}},     {"strings", {48, 58, 66, true}},
       {"vibraphone", {11, 84, 56, false}},  {"violin", {40, 78, 50, true}},
       {"contrabass", {43, 92, 66, true}},
