@@ -280,6 +280,21 @@ TEST(Hands, SpreadTheChordsOfTheGuitar) {
   }
 }
 
+TEST(Hands, LetLongNotesOfBowAndBreathGrowAlone) {
+  for (const auto& [instrument, grows] : {std::pair{"flute", true}, {"guitar", false}}) {
+    const std::string score = "section a\nmelody c5:2 c5\nplay a melody=";
+    const auto midi =
+        read_midi(music::midi_file(music::arrange(music::read_score(score + instrument))));
+    int least = 127, most = 0;
+    for (const MidiEvent& event : midi.value().events) {
+      if ((event.status & 0xf0) != 0xb0 || event.first != 11) continue;
+      least = std::min(least, event.second);
+      most = std::max(most, event.second);
+    }
+    EXPECT_EQ(most > least + 12, grows) << instrument;
+  }
+}
+
 TEST(Hands, SlowDownInSixSteps) {
   const auto tune = played_thrice("ritard");
   ASSERT_EQ(tune.tempos.size(), 8U);  // before, six steps, and in time again
