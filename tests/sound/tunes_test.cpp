@@ -4,31 +4,20 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <complex>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
-#include <numbers>
 #include <random>
 #include <set>
 
 #include "qt/audio/midi_reader.h"
-#include "qt/audio/takes.h"
+#include "tests/sound/files.h"
 #include "tools/music/arrange.h"
-#include "tools/sounds/sounds.h"
 
 namespace tombrello {
 using namespace qt;
 namespace {
 
 namespace fs = std::filesystem;
-const fs::path kRoot = TOMBRELLO_ROOT;
-
-std::string bytes_of(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
 
 std::vector<fs::path> files_in(const fs::path& folder) {
   std::vector<fs::path> files;
@@ -154,168 +143,6 @@ TEST(Tunes, FillAnEveningWithoutComingRoundTooSoon) {
   for (const fs::path& file : files_in(kRoot / "assets/music"))
     seconds += read_midi(bytes_of(file)).value().seconds();
   EXPECT_GE(seconds, 45 * 60);
-}
-
-/// Decibels of the loudest tenth of a second, which is what an ear compares.
-double level(const sounds::Samples& samples) {
-  const std::size_t window = sounds::kRate / 10;
-  double power = 0, most = 0;
-  for (std::size_t i = 0; i < samples.size(); ++i) {
-    power += samples[i] * samples[i];
-    if (i >= window) power -= samples[i - window] * samples[i - window];
-    most = std::max(most, power);
-  }
-  return 10 * std::log10(most / window);
-}
-
-double strength(const sounds::Samples& samples, double hertz) {
-  std::complex<double> sum = 0;
-  for (std::size_t i = 0; i < samples.size(); ++i)
-    sum += samples[i] *
-           std::polar(1.0, -2 * std::numbers::pi * hertz * static_cast<double>(i) / sounds::kRate);
-  return std::norm(sum);
-}
-
-/// Where the middle of a sound's power lies, in hertz.
-double centroid(const sounds::Samples& samples) {
-  double moment = 0, power = 0;
-  for (int hertz = 20; hertz < sounds::kRate / 2; hertz += 20) {
-    moment += hertz * strength(samples, hertz);
-    power += strength(samples, hertz);
-  }
-  return moment / power;
-}
-
-TEST(Sounds, AreWhatTheToolMakes) {
-  for (int take = 1; take <= sounds::kRustles; ++take) {
-    const auto name = sounds::rustle_file(take);
-    EXPECT_EQ(take_file("carta.wav", take), name);  // where the device looks for it
-    EXPECT_TRUE(sounds::wave_file(sounds::rustle(take)) ==
-                bytes_of(kRoot / "assets/sounds" / name));
-  }
-  EXPECT_TRUE(sounds::wave_file(sounds::notice()) == bytes_of(kRoot / "assets/sounds/Notify.wav"));
-  EXPECT_TRUE(sounds::wave_file(sounds::beep()) == bytes_of(kRoot / "assets/sounds/beep.wav"));
-}
-
-TEST(Sounds, TheRustleIsShortAndNeitherAToneNorAHiss) {
-  for (int take = 1; take <= sounds::kRustles; ++take) {
-    SCOPED_TRACE(take);
-    const auto rustle = sounds::rustle(take);
-    const double seconds = static_cast<double>(rustle.size()) / sounds::kRate;
-    EXPECT_GE(seconds, 0.06);
-    EXPECT_LE(seconds, 0.15);
-    EXPECT_NEAR(centroid(rustle), 3000, 700);
-    // A tone repeats itself; noise is unlike itself at every shift above a millisecond.
-    double power = 0;
-    for (const double sample : rustle) power += sample * sample;
-    for (std::size_t shift = 44; shift < 400; ++shift) {
-      double likeness = 0;
-      for (std::size_t i = shift; i < rustle.size(); ++i) likeness += rustle[i] * rustle[i - shift];
-      EXPECT_LT(likeness / power, 0.4) << "shift " << shift;
-    }
-  }
-}
-
-TEST(Sounds, TakesDifferALittleAndSignalsDoNotStartle) {
-  const double rustle = level(sounds::rustle(1));
-  for (int take = 2; take <= sounds::kRustles; ++take) {
-    EXPECT_NEAR(level(sounds::rustle(take)), rustle, 1.6) << take;
-    EXPECT_NE(sounds::rustle(take), sounds::rustle(take - 1));
-  }
-  for (const auto& signal : {sounds::notice(), sounds::beep()}) {
-    EXPECT_GT(level(signal), rustle);
-    EXPECT_LT(level(signal), rustle + 4);
-  }
-}
-
-/// Four bars of melody and chords, three times over; `how` is said of the second time.
-music::Arrangement played_thrice(const std::string& how) {
-  const std::string pass = "play a melody=flute waltz=guitar ";
-  return music::arrange(
-      music::read_score("tempo 120\nsection a\nmelody c5:4 d5 e5 f5 | g5 f5 e5 d5\n"
-                        "melody c5 d5 e5 f5 | g5 f5 e5 d5\n"
-                        "chords C | G | C | G\n" +
-                        pass + "\n" + pass + how + "\n" + pass + "\n"));
-}
-
-double mean_velocity(const std::vector<music::Played>& notes, std::size_t from, std::size_t to) {
-  double sum = 0;
-  for (std::size_t i = from; i < to; ++i) sum += notes[i].velocity;
-  return sum / static_cast<double>(to - from);
-}
-
-TEST(Hands, PlayNoPassTwiceAlikeAndStayNearTheScore) {
-  const auto notes = played_thrice("").instruments.at("flute");
-  ASSERT_EQ(notes.size(), 48U);
-  constexpr int pass = 4 * 4 * music::kQuarter;
-  for (const auto& [one, other] : {std::pair{0U, 16U}, {0U, 32U}, {16U, 32U}}) {
-    int later = 0, harder = 0;
-    for (unsigned i = 0; i < 16; ++i) {
-      const int moved =
-          notes[other + i].start - notes[one + i].start - static_cast<int>(other - one) / 16 * pass;
-      later += moved != 0;
-      harder += notes[other + i].velocity != notes[one + i].velocity;
-      EXPECT_LE(std::abs(moved), 16);
-      EXPECT_LE(std::abs(notes[other + i].velocity - notes[one + i].velocity), 6);
-    }
-    EXPECT_GT(later, 8);
-    EXPECT_GT(harder, 8);
-  }
-}
-
-TEST(Hands, SwellWithThePhraseAndPlayASecondPassSofter) {
-  const auto notes = played_thrice("soft").instruments.at("flute");
-  EXPECT_GT(mean_velocity(notes, 6, 10), mean_velocity(notes, 0, 3) + 4);
-  EXPECT_GT(mean_velocity(notes, 6, 10), mean_velocity(notes, 13, 16) + 4);
-  EXPECT_LT(mean_velocity(notes, 16, 32), mean_velocity(notes, 0, 16) - 4);
-}
-
-TEST(Hands, SpreadTheChordsOfTheGuitar) {
-  const auto notes = played_thrice("").instruments.at("guitar");
-  const int spread = 8 * 120 * music::kQuarter / 60'000;  // 8 ms in ticks
-  for (std::size_t i = 0; i + 2 < notes.size(); i += 3) {
-    EXPECT_EQ(notes[i + 1].start - notes[i].start, spread);
-    EXPECT_EQ(notes[i + 2].start - notes[i].start, 2 * spread);
-    EXPECT_LT(notes[i].pitch, notes[i + 2].pitch);
-  }
-}
-
-TEST(Hands, LetLongNotesOfBowAndBreathGrowAlone) {
-  for (const auto& [instrument, grows] : {std::pair{"flute", true}, {"guitar", false}}) {
-    const std::string score = "section a\nmelody c5:2 c5\nplay a melody=";
-    const auto midi =
-        read_midi(music::midi_file(music::arrange(music::read_score(score + instrument))));
-    int least = 127, most = 0;
-    for (const MidiEvent& event : midi.value().events) {
-      if ((event.status & 0xf0) != 0xb0 || event.first != 11) continue;
-      least = std::min(least, event.second);
-      most = std::max(most, event.second);
-    }
-    EXPECT_EQ(most > least + 12, grows) << instrument;
-  }
-}
-
-TEST(Hands, SlowDownInSixSteps) {
-  const auto tune = played_thrice("ritard");
-  ASSERT_EQ(tune.tempos.size(), 8U);  // before, six steps, and in time again
-  for (std::size_t i = 1; i < 7; ++i) EXPECT_LT(tune.tempos[i].tempo, tune.tempos[i - 1].tempo);
-  EXPECT_EQ(tune.tempos[7].tempo, 120);
-}
-
-TEST(Scores, MistakesAreNamedWithTheirLine) {
-  const auto mistake = [](const std::string& text) -> std::string {
-    try {
-      music::read_score(text);
-    } catch (const std::exception& error) {
-      return error.what();
-    }
-    return {};
-  };
-  EXPECT_EQ(mistake("bar 3/4\nsection a\nmelody c4:4 d4\n").substr(0, 7), "line 3:");
-  EXPECT_EQ(mistake("section a\nmelody h4:1\n").substr(0, 7), "line 2:");
-  EXPECT_EQ(mistake("section a\nchords Cx\n").substr(0, 7), "line 2:");
-  EXPECT_NE(mistake("section a\nmelody c4:1 | d4\nchords C\nplay a melody=flute\n"), "");
-  EXPECT_NE(mistake("section a\nmelody c4:1\n"), "");
 }
 
 TEST(MidiReader, TimeFollowsEveryChangeOfTempo) {
