@@ -17,8 +17,8 @@ inline std::filesystem::path take_file(const std::filesystem::path& file, int ta
   assert(take >= 1 && take <= kMostTakes);
   if (take == 1) return file;
   auto name = file.stem();
-  name += "-" + std::to_string(take);
-  return file.parent_path() / name.concat(file.extension().string());
+  name.concat("-").concat(std::to_string(take)).concat(file.extension().string());
+  return file.parent_path() / name;
 }
 
 /// Any of `count` takes but the one heard last, each as likely; both count from 0.
