@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 
 #include "qt/session_bus.h"
 
@@ -68,7 +69,8 @@ Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& 
       timer_(window_.events()),
       archive_(program_folder(), user_folder()),
       audio_(
-          program_folder(), [this] { wake_for_audio(); }, QApplication::beep) {
+          program_folder(), [this] { wake_for_audio(); }, QApplication::beep,
+          std::random_device()()) {
   qInstallMessageHandler(messages_);
   window_.after_first_paint([this] { audio_.start(); });
   stop_signal_.listen([this] { window_.stop(); });

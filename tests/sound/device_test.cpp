@@ -6,6 +6,7 @@
 #include <atomic>
 #include <csignal>
 #include <random>
+#include <set>
 
 #include "qt/audio/sdl_audio.h"
 #include "qt/audio/wave_check.h"
@@ -26,7 +27,7 @@ struct Ends : MediaEvents {
 /// The sound of the desktop on a device that writes down what is heard.
 struct Heard {
   explicit Heard(int haste) : disk(haste) {
-    disk.put("sounds/carta.wav", sounds::wave_file(sounds::rustle()));
+    disk.put("sounds/carta.wav", sounds::wave_file(sounds::rustle(1)));
     disk.put("sounds/Notify.wav", sounds::wave_file(sounds::notice()));
     disk.put("sounds/beep.wav", sounds::wave_file(sounds::beep()));
     disk.put("music/low.mid", short_tune("a4:2 r", 120));
@@ -71,7 +72,7 @@ struct Heard {
   Ends ends;
   std::atomic<bool> woken = false;
   std::atomic<int> system_beeps = 0;
-  SdlAudio audio{disk.folder(), [this] { woken = true; }, [this] { ++system_beeps; }};
+  SdlAudio audio{disk.folder(), [this] { woken = true; }, [this] { ++system_beeps; }, 1};
 };
 
 TEST(Waves, WhatWasToldBeforeTheDeviceStandsIsHeardOnceItDoes) {
@@ -100,6 +101,40 @@ TEST(Waves, ClosingLetsASoundFinishAndTheNextOneBegins) {
   const auto begun = onsets(samples);
   ASSERT_EQ(begun.size(), 2U);  // the signal's two notes run into each other
   EXPECT_GT(strength(samples, begun[0] + 0.3, 880), 0.01) << "its second note was cut off";
+}
+
+// The game asks for one file each time; what lies beside it as -2 and -3 is the device's to choose.
+TEST(Waves, ASoundWithSeveralTakesIsNeverHeardAlikeTwiceRunning) {
+  Heard heard(6);
+  const double hertz[] = {440, 660, 880};
+  for (int take = 1; take <= 3; ++take) {
+    sounds::Samples tone(sounds::kRate / 4);
+    for (std::size_t i = 0; i < tone.size(); ++i)
+      tone[i] = 0.3 * std::sin(2 * std::numbers::pi * hertz[take - 1] * static_cast<double>(i) /
+                               sounds::kRate);
+    heard.disk.put("sounds/" + sounds::rustle_file(take), sounds::wave_file(tone));
+  }
+  heard.audio.start();
+  heard.await_wave_device();
+  heard.open(heard.audio.wave(), "sounds/carta.wav");
+  constexpr std::size_t plays = 12;
+  for (std::size_t i = 0; i < plays; ++i) {
+    heard.play_wave();
+    heard.disk.pass(0.5);
+  }
+  const auto samples = heard.disk.heard();
+  const auto begun = onsets(samples);
+  ASSERT_EQ(begun.size(), plays);
+  std::set<double> all;
+  double last = 0;
+  for (const double start : begun) {
+    const double pitch = *std::max_element(std::begin(hertz), std::end(hertz), [&](auto a, auto b) {
+      return strength(samples, start, a) < strength(samples, start, b);
+    });
+    EXPECT_NE(pitch, last);
+    all.insert(last = pitch);
+  }
+  EXPECT_EQ(all.size(), 3U);
 }
 
 TEST(Waves, FilesThatAreNoneAreSilent) {
@@ -293,7 +328,7 @@ TEST(NoAudio, AServerThatHangsHoldsNothingUp) {
   setenv("PULSE_SERVER", ("unix:" + path).c_str(), 1);
   {
     SdlAudio audio(
-        heard.disk.folder(), [] {}, [&] { ++heard.system_beeps; });
+        heard.disk.folder(), [] {}, [&] { ++heard.system_beeps; }, 1);
     audio.start();
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     for (int i = 0; i < 10'000; ++i) heard.open(audio.wave(), "sounds/carta.wav");

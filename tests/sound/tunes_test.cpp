@@ -1,28 +1,23 @@
+#include <fluidsynth.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
+#include <cmath>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <random>
 #include <set>
 
 #include "qt/audio/midi_reader.h"
+#include "tests/sound/files.h"
 #include "tools/music/arrange.h"
-#include "tools/sounds/sounds.h"
 
 namespace tombrello {
 using namespace qt;
 namespace {
 
 namespace fs = std::filesystem;
-const fs::path kRoot = TOMBRELLO_ROOT;
-
-std::string bytes_of(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
 
 std::vector<fs::path> files_in(const fs::path& folder) {
   std::vector<fs::path> files;
@@ -64,6 +59,49 @@ TEST_P(TuneTest, ClosesEveryNoteAndEndsEachTrackWithAllNotesOff) {
   }
 }
 
+// Nobody waits before a tune, nor for long after it.
+TEST_P(TuneTest, BeginsAtOnceAndEndsWithItsSound) {
+  auto midi = read_midi(bytes_of(GetParam()));
+  ASSERT_TRUE(midi.has_value());
+  std::int64_t first = 1'000'000, last = 0;
+  for (const MidiEvent& event : midi->events) {
+    if ((event.status & 0xf0) == 0x90) first = std::min(first, event.tick);
+    if ((event.status & 0xf0) == 0x80) last = std::max(last, event.tick);
+  }
+  EXPECT_EQ(first, 0);
+  const double whole = midi->seconds();
+  std::erase_if(midi->events, [&](const MidiEvent& event) { return event.tick > last; });
+  EXPECT_LE(whole - midi->seconds(), 2);
+}
+
+/// As the soundfont plays it, in decibels below full scale, over all of the tune.
+double heard_level(const std::string& tune) {
+  fluid_settings_t* const settings = new_fluid_settings();
+  fluid_settings_setnum(settings, "synth.sample-rate", 22050);
+  fluid_settings_setint(settings, "synth.reverb.active", 0);
+  fluid_settings_setint(settings, "synth.chorus.active", 0);
+  fluid_synth_t* const synth = new_fluid_synth(settings);
+  EXPECT_NE(fluid_synth_sfload(synth, "/usr/share/sounds/sf2/TimGM6mb.sf2", 1), FLUID_FAILED);
+  fluid_player_t* const player = new_fluid_player(synth);
+  fluid_player_add_mem(player, tune.data(), tune.size());
+  fluid_player_play(player);
+  double power = 0;
+  std::size_t count = 0;
+  for (float left[1024], right[1024]; fluid_player_get_status(player) == FLUID_PLAYER_PLAYING;) {
+    fluid_synth_write_float(synth, 1024, left, 0, 1, right, 0, 1);
+    for (int i = 0; i < 1024; ++i) power += left[i] * left[i] + right[i] * right[i];
+    count += 2 * 1024;
+  }
+  delete_fluid_player(player);
+  delete_fluid_synth(synth);
+  delete_fluid_settings(settings);
+  return 10 * std::log10(power / static_cast<double>(count));
+}
+
+TEST_P(TuneTest, IsAsLoudAsTheOthers) {
+  EXPECT_NEAR(heard_level(bytes_of(GetParam())), -37.5, 1.5);  // within 3 dB of each other
+}
+
 TEST_P(TuneTest, SuitsACardTable) {
   const auto midi = read_midi(bytes_of(GetParam()));
   ASSERT_TRUE(midi.has_value());
@@ -72,7 +110,7 @@ TEST_P(TuneTest, SuitsACardTable) {
   for (const MidiEvent& event : midi->events) {
     if (event.tempo > 0) {
       EXPECT_GE(60e6 / event.tempo, 40);
-      EXPECT_LE(60e6 / event.tempo, 132);
+      EXPECT_LE(60e6 / event.tempo, 180);
     }
     if ((event.status & 0xf0) == 0x90) {
       EXPECT_GE(event.first, 33) << "too low to be heard";
@@ -85,7 +123,8 @@ TEST_P(TuneTest, SuitsACardTable) {
 INSTANTIATE_TEST_SUITE_P(Music, TuneTest, testing::ValuesIn(files_in(kRoot / "assets/music")),
                          [](const auto& tune) {
                            std::string name = tune.param.stem().string();
-                           std::erase(name, ' ');
+                           std::erase_if(name,
+                                         [](unsigned char c) { return std::isalnum(c) == 0; });
                            return name;
                          });
 
@@ -97,44 +136,13 @@ TEST(Tunes, EachScoreHasItsTuneAndNothingElseLiesThere) {
     tunes.push_back(file.filename().string());
   std::sort(scores.begin(), scores.end());
   EXPECT_EQ(scores, tunes);
-  EXPECT_GE(tunes.size(), 6U);
 }
 
-TEST(Sounds, AreWhatTheToolMakes) {
-  EXPECT_TRUE(sounds::wave_file(sounds::rustle()) == bytes_of(kRoot / "assets/sounds/carta.wav"));
-  EXPECT_TRUE(sounds::wave_file(sounds::notice()) == bytes_of(kRoot / "assets/sounds/Notify.wav"));
-  EXPECT_TRUE(sounds::wave_file(sounds::beep()) == bytes_of(kRoot / "assets/sounds/beep.wav"));
-}
-
-TEST(Sounds, TheRustleIsShortAndIsNoTone) {
-  const auto rustle = sounds::rustle();
-  const double seconds = static_cast<double>(rustle.size()) / sounds::kRate;
-  EXPECT_GE(seconds, 0.06);
-  EXPECT_LE(seconds, 0.15);
-  // A tone repeats itself; noise is unlike itself at every shift above a millisecond.
-  double power = 0;
-  for (const double sample : rustle) power += sample * sample;
-  for (std::size_t shift = 44; shift < 400; ++shift) {
-    double likeness = 0;
-    for (std::size_t i = shift; i < rustle.size(); ++i) likeness += rustle[i] * rustle[i - shift];
-    EXPECT_LT(likeness / power, 0.4) << "shift " << shift;
-  }
-}
-
-TEST(Scores, MistakesAreNamedWithTheirLine) {
-  const auto mistake = [](const std::string& text) -> std::string {
-    try {
-      music::read_score(text);
-    } catch (const std::exception& error) {
-      return error.what();
-    }
-    return {};
-  };
-  EXPECT_EQ(mistake("bar 3/4\nsection a\nmelody c4:4 d4\n").substr(0, 7), "line 3:");
-  EXPECT_EQ(mistake("section a\nmelody h4:1\n").substr(0, 7), "line 2:");
-  EXPECT_EQ(mistake("section a\nchords Cx\n").substr(0, 7), "line 2:");
-  EXPECT_NE(mistake("section a\nmelody c4:1 | d4\nchords C\nplay a melody=flute\n"), "");
-  EXPECT_NE(mistake("section a\nmelody c4:1\n"), "");
+TEST(Tunes, FillAnEveningWithoutComingRoundTooSoon) {
+  double seconds = 0;
+  for (const fs::path& file : files_in(kRoot / "assets/music"))
+    seconds += read_midi(bytes_of(file)).value().seconds();
+  EXPECT_GE(seconds, 45 * 60);
 }
 
 TEST(MidiReader, TimeFollowsEveryChangeOfTempo) {
@@ -142,7 +150,7 @@ TEST(MidiReader, TimeFollowsEveryChangeOfTempo) {
       "tempo 60\nsection a\nmelody c4:1\nplay a melody=flute\nplay a melody=flute tempo=120\n");
   const auto midi = read_midi(music::midi_file(music::arrange(tune)));
   ASSERT_TRUE(midi.has_value());
-  EXPECT_NEAR(midi->seconds(), 4 + 2 + 2, 0.01);  // and a bar to ring out
+  EXPECT_NEAR(midi->seconds(), 4 + 2 + 0.5, 0.02);  // and half a second to ring out
 }
 
 TEST(MidiReader, DamagedFilesAreRefusedOrReadButNeverUpsetIt) {

@@ -1,6 +1,8 @@
 #include "tools/music/arrange.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 #include <stdexcept>
 
 namespace tombrello::music {
@@ -110,19 +112,8 @@ void play_voice(const std::vector<Note>& notes, const Score& score, int at, int 
   }
 }
 
-void play_part(const Part& part, const Pass& pass, const Score& score, int at, Arrangement& tune) {
-  const Section& section = score.sections.at(pass.section);
-  std::vector<Played>& out = tune.instruments[part.instrument];
-  const auto octave = part.what.find_first_of("+-");
-  const std::string what = part.what.substr(0, octave);
-  const int transpose =
-      pass.transpose + (octave == part.what.npos ? 0 : 12 * std::stoi(part.what.substr(octave)));
-  if (const auto voice = section.voices.find(what); voice != section.voices.end()) {
-    play_voice(voice->second, score, at, transpose, out);
-    return;
-  }
-  const Way way = way_of(what);
-  if (way == nullptr) throw std::runtime_error(pass.section + " has no " + part.what);
+void play_chords(const Way way, const Section& section, const Score& score, int at, int transpose,
+                 std::vector<Played>& out) {
   for (const Chord& chord : section.chords) {
     if (chord.tones.empty()) continue;
     way({chord, at + chord.start, chord.start % score.bar(), score.bar(), score.beat(), transpose,
@@ -130,16 +121,48 @@ void play_part(const Part& part, const Pass& pass, const Score& score, int at, A
   }
 }
 
+/// A phrase of four bars grows toward its middle and dies away.
+int swell(int in_section, int bar) {
+  const double share = static_cast<double>(in_section % (4 * bar)) / (4 * bar);
+  return static_cast<int>(std::lround(-8 * std::cos(2 * std::numbers::pi * share)));
+}
+
+void play_part(const Part& part, const Pass& pass, const Score& score, int at, Arrangement& tune) {
+  const Section& section = score.sections.at(pass.section);
+  const auto octave = part.what.find_first_of("+-");
+  const std::string what = part.what.substr(0, octave);
+  const int transpose =
+      pass.transpose + (octave == part.what.npos ? 0 : 12 * std::stoi(part.what.substr(octave)));
+  std::vector<Played> notes;
+  if (const auto voice = section.voices.find(what); voice != section.voices.end()) {
+    play_voice(voice->second, score, at, transpose, notes);
+  } else if (const Way way = way_of(what); way != nullptr) {
+    play_chords(way, section, score, at, transpose, notes);
+  } else {
+    throw std::runtime_error(pass.section + " has no " + part.what);
+  }
+  const int end = at + score.length_of(pass);
+  std::erase_if(notes, [&](const Played& note) { return note.start >= end; });
+  for (Played& note : notes) {
+    note.length = std::min(note.length, end - note.start);
+    note.velocity += swell(note.start - at, score.bar()) - (pass.soft ? 8 : 0);
+  }
+  auto& out = tune.instruments[part.instrument];
+  out.insert(out.end(), notes.begin(), notes.end());
+}
+
 void mark_tempo(Arrangement& tune, int start, int tempo) {
   if (tune.tempos.empty() || tune.tempos.back().tempo != tempo)
     tune.tempos.push_back({start, tempo});
 }
 
-/// The last bar but one a little slower, the last one slower still.
+/// Slower in six steps over the last two bars, down to three quarters of the tempo.
 void mark_ritard(const Pass& pass, const Score& score, Arrangement& tune) {
-  const int last = tune.length + score.sections.at(pass.section).length - score.bar();
-  mark_tempo(tune, last - score.bar(), pass.tempo * 9 / 10);
-  mark_tempo(tune, last, pass.tempo * 3 / 4);
+  constexpr int steps = 6;
+  const int end = tune.length + score.length_of(pass);
+  for (int step = 0; step < steps; ++step)
+    mark_tempo(tune, end - 2 * score.bar() * (steps - step) / steps,
+               pass.tempo * (100 - 4 * (step + 1)) / 100);
 }
 
 /// A key that is struck again is let go first, and two voices on one key are one.
@@ -159,17 +182,32 @@ void part_same_pitches(std::vector<Played>& notes) {
   std::erase_if(notes, [](const Played& note) { return note.length <= 0; });
 }
 
+/// Nobody waits for an upbeat's rests.
+void begin_with_first_note(Arrangement& tune) {
+  int first = tune.length;
+  for (const auto& [name, notes] : tune.instruments)
+    if (!notes.empty()) first = std::min(first, notes.front().start);
+  for (auto& [name, notes] : tune.instruments)
+    for (Played& note : notes) note.start -= first;
+  for (TempoMark& mark : tune.tempos) mark.start = std::max(0, mark.start - first);
+  tune.length -= first;
+}
+
 }  // namespace
 
 Arrangement arrange(const Score& score) {
-  Arrangement tune{score.title, score.numerator, score.denominator, score.volume, 0, {}, {}};
+  Arrangement tune{
+      score.title, score.numerator, score.denominator, score.volume, score.beat(), 0, {}, {}};
   for (const Pass& pass : score.passes) {
     mark_tempo(tune, tune.length, pass.tempo);
     if (pass.ritard) mark_ritard(pass, score, tune);
     for (const Part& part : pass.parts) play_part(part, pass, score, tune.length, tune);
-    tune.length += score.sections.at(pass.section).length;
+    tune.length += score.length_of(pass);
   }
   for (auto& [name, notes] : tune.instruments) part_same_pitches(notes);
+  play_by_hand(tune);
+  for (auto& [name, notes] : tune.instruments) part_same_pitches(notes);
+  begin_with_first_note(tune);
   return tune;
 }
 

@@ -70,13 +70,35 @@ std::vector<Event> tempo_track(const Arrangement& tune, int end) {
   return events;
 }
 
-std::vector<Event> instrument_track(const std::string& name, const std::vector<Played>& notes,
-                                    int volume, int channel, int end) {
+/// A long note grows and dies away again, by some three decibels.
+void put_swells(std::vector<Event>& events, const std::vector<Played>& notes, int channel,
+                int shortest) {
+  constexpr int rest = 120, steps = 8;
+  constexpr int curve[steps] = {106, 113, 120, 125, 127, 123, 115, 106};
+  const auto express = [&](int at, int value) {
+    events.push_back(channel_event(at, 0xb0, channel, 11, value));
+  };
+  express(0, rest);
+  int busy = 0;
+  for (const Played& note : notes) {
+    if (note.start < busy || note.length < shortest) continue;
+    const int length = note.length * 15 / 16;
+    for (int step = 0; step < steps; ++step)
+      express(note.start + length * step / steps, curve[step]);
+    busy = note.start + length;
+    express(busy, rest);
+  }
+}
+
+std::vector<Event> instrument_track(const std::string& name, const Arrangement& tune, int channel,
+                                    int end) {
   const Instrument sound = instrument(name);
-  const int level = std::clamp(sound.level * volume / 100, 1, 127);
+  const std::vector<Played>& notes = tune.instruments.at(name);
+  const int level = std::clamp(sound.level * tune.volume / 100, 1, 127);
   std::vector<Event> events = {
       meta_event(0, 0x03, name), channel_event(0, 0xc0, channel, sound.program),
       channel_event(0, 0xb0, channel, 7, level), channel_event(0, 0xb0, channel, 10, sound.pan)};
+  if (sound.held) put_swells(events, notes, channel, 2 * tune.beat * 9 / 10);
   // Ends come first, so that a key struck again at once is let go before.
   for (const Played& note : notes)
     events.push_back(channel_event(note.start + note.length, 0x80, channel, note.pitch, 64));
@@ -91,12 +113,16 @@ std::vector<Event> instrument_track(const std::string& name, const std::vector<P
 
 Instrument instrument(const std::string& name) {
   static const std::map<std::string, Instrument> known = {
-      {"accordion", {21, 92, 60}},  {"bassoon", {70, 104, 72}}, {"celesta", {8, 104, 76}},
-      {"cello", {42, 84, 78}},      {"clarinet", {71, 84, 52}}, {"flute", {73, 88, 54}},
-      {"guitar", {24, 98, 48}},     {"harp", {46, 86, 80}},     {"harpsichord", {6, 118, 74}},
-      {"musicbox", {10, 88, 64}},   {"oboe", {68, 74, 60}},     {"piano", {0, 90, 64}},
-      {"pizzicato", {45, 92, 70}},  {"recorder", {74, 84, 58}}, {"strings", {48, 58, 66}},
-      {"vibraphone", {11, 84, 56}}, {"violin", {40, 78, 50}},   {"contrabass", {43, 92, 66}},
+      {"accordion", {21, 92, 60, true}},    {"bassoon", {70, 104, 72, true}},
+      {"celesta", {8, 104, 76, false}},     {"cello", {42, 84, 78, true}},
+      {"clarinet", {71, 84, 52, true}},     {"flute", {73, 88, 54, true}},
+      {"guitar", {24, 98, 48, false}},      {"harp", {46, 86, 80, false}},
+      {"harpsichord", {6, 118, 74, false}}, {"horn", {60, 84, 72, true}},
+      {"musicbox", {10, 88, 64, false}},    {"oboe", {68, 74, 60, true}},
+      {"piano", {0, 118, 64, false}},       {"pizzicato", {45, 92, 70, false}},
+      {"recorder", {74, 84, 58, true}},     {"strings", {48, 58, 66, true}},
+      {"vibraphone", {11, 84, 56, false}},  {"violin", {40, 78, 50, true}},
+      {"contrabass", {43, 92, 66, true}},
   };
   const auto found = known.find(name);
   if (found == known.end()) throw std::runtime_error("no instrument called " + name);
@@ -104,8 +130,7 @@ Instrument instrument(const std::string& name) {
 }
 
 std::string midi_file(const Arrangement& tune) {
-  // A bar of silence lets the last chord ring.
-  const int end = tune.length + 4 * kQuarter * tune.numerator / tune.denominator;
+  const int end = tune.length + kQuarter;  // the last chord rings out
   std::string out = "MThd";
   put(out, 6, 4);
   put(out, 1, 2);
@@ -114,7 +139,7 @@ std::string midi_file(const Arrangement& tune) {
   put_track(out, tempo_track(tune, end));
   int channel = 0;
   for (const auto& [name, notes] : tune.instruments) {
-    put_track(out, instrument_track(name, notes, tune.volume, channel, end));
+    put_track(out, instrument_track(name, tune, channel, end));
     channel += channel == 8 ? 2 : 1;  // the tenth channel is the drums'
   }
   if (channel > 16) throw std::runtime_error("too many instruments");

@@ -1,5 +1,6 @@
 #include "tools/music/score.h"
 
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 
@@ -120,6 +121,10 @@ class Reader {
         pass.tempo = std::stoi(value);
       else if (key == "transpose")
         pass.transpose = std::stoi(value);
+      else if (key == "bars")
+        pass.bars = std::stoi(value);
+      else if (key == "soft")
+        pass.soft = true;
       else if (key == "ritard")
         pass.ritard = true;
       else if (equals == word.npos)
@@ -201,6 +206,11 @@ class Reader {
 int Score::beat() const {
   const bool compound = denominator == 8 && numerator % 3 == 0 && numerator > 3;
   return compound ? kQuarter * 3 / 2 : 4 * kQuarter / denominator;
+}
+
+int Score::length_of(const Pass& pass) const {
+  const int whole = sections.at(pass.section).length;
+  return pass.bars > 0 ? std::min(whole, pass.bars * bar()) : whole;
 }
 
 Score read_score(const std::string& text) {

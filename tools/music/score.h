@@ -41,6 +41,8 @@ struct Pass {
   std::vector<Part> parts;
   int tempo = 0;      ///< quarters a minute
   int transpose = 0;  ///< semitones
+  int bars = 0;       ///< only so many of the section are heard; 0 for all of them
+  bool soft = false;
   bool ritard = false;
 };
 
@@ -52,6 +54,8 @@ struct Score {
   std::map<std::string, Section> sections;
   std::vector<Pass> passes;
 
+  /// Ticks that a pass lasts.
+  int length_of(const Pass& pass) const;
   int bar() const { return 4 * kQuarter * numerator / denominator; }
   /// What a foot taps: a quarter, or three eighths where the bar divides that way.
   int beat() const;

@@ -4,7 +4,7 @@
 #include "tools/sounds/sounds.h"
 
 // Usage: tombrello_sounds FOLDER
-// Writes the program's three sounds into the folder.
+// Writes the program's sounds into the folder.
 int main(int count, char** arguments) {
   namespace sounds = tombrello::sounds;
   if (count != 2) {
@@ -12,12 +12,13 @@ int main(int count, char** arguments) {
     return 2;
   }
   const std::string folder = std::string(arguments[1]) + '/';
-  const auto write = [&](const char* name, const sounds::Samples& samples) {
+  const auto write = [&](const std::string& name, const sounds::Samples& samples) {
     std::ofstream out(folder + name, std::ios::binary);
     return static_cast<bool>((out << sounds::wave_file(samples)).flush());
   };
-  const bool written = write("carta.wav", sounds::rustle()) &&
-                       write("Notify.wav", sounds::notice()) && write("beep.wav", sounds::beep());
+  bool written = write("Notify.wav", sounds::notice()) && write("beep.wav", sounds::beep());
+  for (int take = 1; take <= sounds::kRustles; ++take)
+    written = write(sounds::rustle_file(take), sounds::rustle(take)) && written;
   if (!written) std::cerr << "can't write into " << folder << '\n';
   return written ? 0 : 1;
 }

@@ -1,6 +1,7 @@
 #include "tools/sounds/sounds.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <cstdint>
 #include <numbers>
@@ -21,16 +22,17 @@ double time_of(std::size_t i) {
 /// Plain noise, the same at every run.
 class Noise {
  public:
+  explicit Noise(std::uint32_t seed) : state_(seed) {}
   double next() {
     state_ = state_ * 1664525u + 1013904223u;
     return static_cast<double>(state_ >> 8) / (1 << 23) - 1;
   }
 
  private:
-  std::uint32_t state_ = 7;
+  std::uint32_t state_;
 };
 
-/// Lets pass what lies below a frequency; the rest is what lies above.
+/// Lets pass what lies below a frequency; what it takes away lies above.
 class LowPass {
  public:
   explicit LowPass(double hertz) : share_(1 - std::exp(-kTurn * hertz / kRate)) {}
@@ -39,6 +41,20 @@ class LowPass {
  private:
   double share_;
   double held_ = 0;
+};
+
+/// Lets pass what lies between two frequencies, and falls off above at twice the slope: noise
+/// that reaches higher hisses.
+class Band {
+ public:
+  Band(double bottom, double top) : bottom_(bottom), once_(top), twice_(top) {}
+  double pass(double sample) {
+    const double low = twice_.pass(once_.pass(sample));
+    return low - bottom_.pass(low);
+  }
+
+ private:
+  LowPass bottom_, once_, twice_;
 };
 
 /// From 0 to 1 and softly so, then falling by e every `fall` seconds; 0 before its time.
@@ -64,43 +80,67 @@ void fade_end(Samples& samples, double seconds) {
     samples[samples.size() - 1 - i] *= static_cast<double>(i) / static_cast<double>(length);
 }
 
+/// Decibels below full scale, over all of it.
+void set_level(Samples& samples, double decibels) {
+  double power = 0;
+  for (const double sample : samples) power += sample * sample;
+  const double now = std::sqrt(power / static_cast<double>(samples.size()));
+  for (double& sample : samples) sample *= std::pow(10, decibels / 20) / now;
+}
+
 void put(std::string& out, std::uint32_t value, int bytes) {
   for (int i = 0; i < bytes; ++i) out.push_back(static_cast<char>(value >> (8 * i) & 0xff));
 }
 
 }  // namespace
 
-Samples rustle() {
+// No two cards fall alike: from one take to the next the noise is another, the card slides longer
+// or shorter, lands harder or softer, and is nearer or farther by a decibel and a half at most.
+Samples rustle(int take) {
+  struct Hand {
+    std::uint32_t seed;
+    double landing;  // seconds
+    double slide, edge, cloth, decibels;
+  };
+  static constexpr Hand hands[kRustles] = {
+      {7, 0.024, 1.0, 1.0, 1.0, 0.0},    {23, 0.029, 1.2, 0.8, 1.1, -1.2},
+      {41, 0.020, 0.8, 1.2, 0.9, 0.9},   {59, 0.033, 1.3, 0.9, 0.8, -0.6},
+      {83, 0.022, 0.9, 0.95, 1.1, -1.5}, {97, 0.027, 1.1, 1.1, 1.0, 1.4},
+  };
+  assert(take >= 1 && take <= kRustles);
+  const Hand& hand = hands[take - 1];
   Samples samples = silence(0.11);
-  Noise noise;
-  LowPass hiss_top(5200), hiss_bottom(1700), snap_top(9000), snap_bottom(2600), brush_top(2400);
-  LowPass brush_bottom(600);
-  constexpr double landing = 0.024;
+  Noise noise(hand.seed);
+  Band hiss(1700, 4200), snap(2600, 6000), brush(600, 2000);
   for (std::size_t i = 0; i < samples.size(); ++i) {
-    const double t = time_of(i);
+    const double t = time_of(i), landed = t - hand.landing;
     const double raw = noise.next();
-    const double hiss = hiss_top.pass(raw), snap = snap_top.pass(raw), brush = brush_top.pass(raw);
     // The card slides off the pack, lands on its edge, and settles on the cloth.
-    samples[i] = 0.25 * stroke(t, 0.020, 0.012) * (hiss - hiss_bottom.pass(hiss)) +
-                 0.45 * stroke(t - landing, 0.0006, 0.0045) * (snap - snap_bottom.pass(snap)) +
-                 0.3 * stroke(t - landing, 0.003, 0.017) * (brush - brush_bottom.pass(brush)) +
-                 0.08 * stroke(t - landing, 0.002, 0.010) * std::sin(kTurn * 190 * (t - landing));
+    samples[i] = 0.25 * hand.slide * stroke(t, 0.020, 0.012) * hiss.pass(raw) +
+                 0.40 * hand.edge * stroke(landed, 0.0006, 0.0045) * snap.pass(raw) +
+                 0.40 * hand.cloth * stroke(landed, 0.003, 0.017) * brush.pass(raw) +
+                 0.11 * hand.cloth * stroke(landed, 0.002, 0.010) * std::sin(kTurn * 190 * landed);
   }
   fade_end(samples, 0.01);
+  set_level(samples, -26.5 + hand.decibels);
   return samples;
+}
+
+std::string rustle_file(int take) {
+  return take == 1 ? "carta.wav" : "carta-" + std::to_string(take) + ".wav";
 }
 
 Samples notice() {
   Samples samples = silence(0.85);
-  add_note(samples, 0.0, 587.33, 0.26, 0.16);
-  add_note(samples, 0.16, 880.0, 0.26, 0.2);
+  add_note(samples, 0.0, 587.33, 0.125, 0.16);
+  add_note(samples, 0.16, 880.0, 0.125, 0.2);
   fade_end(samples, 0.05);
   return samples;
 }
 
 Samples beep() {
   Samples samples = silence(0.22);
-  add_note(samples, 0.0, 698.46, 0.28, 0.05);
+  add_note(samples, 0.0, 698.46, 0.2, 0.05);
   fade_end(samples, 0.03);
   return samples;
 }

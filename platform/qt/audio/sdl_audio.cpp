@@ -32,8 +32,10 @@ void run(const std::shared_ptr<typename Media::Box>& box, std::shared_ptr<SdlMix
 }  // namespace
 
 SdlAudio::SdlAudio(std::filesystem::path folder, std::function<void()> wake,
-                   std::function<void()> system_beep)
-    : folder_(std::move(folder)), wave_(std::move(system_beep)), sequencer_(std::move(wake)) {}
+                   std::function<void()> system_beep, unsigned seed)
+    : folder_(std::move(folder)),
+      wave_(std::move(system_beep), seed),
+      sequencer_(std::move(wake)) {}
 
 SdlAudio::~SdlAudio() {
   {

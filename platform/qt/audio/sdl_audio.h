@@ -14,9 +14,9 @@ class SdlAudio {
  public:
   /// Files are found under `folder`. `wake` comes from another thread and must only post; see
   /// that `deliver` is called soon after. `system_beep` is what the game's thread calls for a
-  /// beep while, or where, there is no audio.
+  /// beep while, or where, there is no audio. `seed` is for what sounds take by chance.
   SdlAudio(std::filesystem::path folder, std::function<void()> wake,
-           std::function<void()> system_beep);
+           std::function<void()> system_beep, unsigned seed);
   SdlAudio(const SdlAudio&) = delete;
   SdlAudio& operator=(const SdlAudio&) = delete;
   /// Everything falls silent. Takes half a second at most, also if the audio server hangs.

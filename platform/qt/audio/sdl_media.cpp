@@ -5,6 +5,8 @@
 #include <map>
 #include <utility>
 
+#include "qt/audio/takes.h"
+
 namespace tombrello::qt {
 namespace {
 
@@ -23,11 +25,11 @@ Clock::time_point latest_end(double seconds) {
          std::chrono::milliseconds(static_cast<long>(std::min(seconds, most) * 1e3)) + 10s;
 }
 
-/// The waves that were asked for, loaded once each.
+/// The waves that were asked for, loaded once each, with their other takes.
 class Waves {
  public:
-  Waves(SdlMixerDevice& device, const std::filesystem::path& folder)
-      : device_(device), folder_(folder) {}
+  Waves(SdlMixerDevice& device, const std::filesystem::path& folder, std::minstd_rand& chance)
+      : device_(device), folder_(folder), chance_(chance) {}
   ~Waves() {
     const auto still = device_.hold_still();
     waves_.clear();
@@ -36,20 +38,35 @@ class Waves {
   Waves& operator=(const Waves&) = delete;
 
   // Both rely on a lease.
-  Mix_Chunk* get(const std::string& file) {
-    const auto [place, fresh] = waves_.try_emplace(file);
-    if (fresh) place->second = device_.load_wave(folder_ / file);
-    return place->second.get();
-  }
+  bool load(const std::string& file) { return !get(file).takes.empty(); }
   void serve(const SdlWave::Job& job) {
-    Mix_Chunk* const wave = get(job.file);
-    if (wave != nullptr && job.play) device_.play(*wave);
+    Wave& wave = get(job.file);
+    if (wave.takes.empty() || !job.play) return;
+    wave.last = next_take(wave.takes.size(), wave.last, chance_);
+    device_.play(*wave.takes[wave.last]);
   }
 
  private:
+  struct Wave {
+    std::vector<Chunk> takes;
+    std::size_t last = 0;
+  };
+
+  Wave& get(const std::string& file) {
+    const auto [place, fresh] = waves_.try_emplace(file);
+    auto& takes = place->second.takes;
+    for (int take = 1; fresh && take <= kMostTakes; ++take) {
+      Chunk chunk = device_.load_wave(folder_ / take_file(file, take));
+      if (chunk == nullptr) break;
+      takes.push_back(std::move(chunk));
+    }
+    return place->second;
+  }
+
   SdlMixerDevice& device_;
   const std::filesystem::path& folder_;
-  std::map<std::string, Chunk> waves_;
+  std::minstd_rand& chance_;
+  std::map<std::string, Wave> waves_;
 };
 
 /// The one tune that plays.
@@ -112,7 +129,10 @@ void MediaBox::finish() {
   changed.notify_all();
 }
 
-SdlWave::SdlWave(std::function<void()> system_beep) : system_beep_(std::move(system_beep)) {}
+SdlWave::SdlWave(std::function<void()> system_beep, unsigned seed)
+    : system_beep_(std::move(system_beep)) {
+  box_->chance.seed(seed);
+}
 
 void SdlWave::command(Command command) {
   switch (command) {
@@ -149,8 +169,8 @@ void SdlWave::post(Job job) {
 void SdlWave::serve(Box& box, SdlMixerDevice& device, const std::filesystem::path& folder) {
   auto lease = device.lease();
   if (lease == nullptr) return;
-  Waves waves(device, folder);
-  const bool beeps = waves.get(kBeep) != nullptr;
+  Waves waves(device, folder, box.chance);
+  const bool beeps = waves.load(kBeep);
   std::unique_lock lock(box.mutex);
   box.beeps = beeps;
   const auto called = [&] { return box.leaving || !box.jobs.empty(); };

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,8 @@ struct MediaBox {
 };
 
 /// The wave device, and the beep beside it: each play begins at once, from the beginning, and
-/// lets what sounds before it sound on. Used on the game's thread.
+/// lets what sounds before it sound on. A sound may lie there in several takes, which take turns
+/// by chance. Used on the game's thread.
 class SdlWave : public MediaControl, public Beeper {
  public:
   struct Job {
@@ -38,12 +40,13 @@ class SdlWave : public MediaControl, public Beeper {
     bool operator==(const Job&) const = default;
   };
   struct Box : MediaBox {
-    std::vector<Job> jobs;  ///< each at most once, so that they stay few if nobody takes them
-    bool beeps = false;     ///< the beep is loaded, and there is a device
+    std::vector<Job> jobs;    ///< each at most once, so that they stay few if nobody takes them
+    bool beeps = false;       ///< the beep is loaded, and there is a device
+    std::minstd_rand chance;  ///< the thread's own: which take of a sound is heard
   };
 
-  /// `system_beep` stands in where nothing can be played.
-  explicit SdlWave(std::function<void()> system_beep);
+  /// `system_beep` stands in where nothing can be played; from `seed` comes the order of takes.
+  SdlWave(std::function<void()> system_beep, unsigned seed);
 
   void set_file_name(const std::string& name) override { file_name_ = name; }
   void command(Command command) override;
