@@ -33,6 +33,14 @@ constexpr int ValCarta(int card) {
   return twin == 0 ? 0 : (twin - 1) % kRanks + 1;
 }
 
+/// The ranks beside a rank on the circle of ranks, where the Ace follows the King.
+constexpr int rank_after(int rank) {
+  return rank == kRanks ? 1 : rank + 1;
+}
+constexpr int rank_before(int rank) {
+  return rank == 1 ? kRanks : rank - 1;
+}
+
 /// Where a card is marked in a presence string, from 1. It is also its first-pack code.
 constexpr int presence_position(int card) {
   return (Seme(card) - 1) * kRanks + ValCarta(card);

@@ -4,8 +4,8 @@
 #include "cards/hands.h"
 #include "cards/outside.h"
 #include "cards/random.h"
+#include "cards/slice.h"
 #include "cards/state.h"
-#include "computer/slice.h"
 #include "melds/melds.h"
 
 namespace tombrello {
@@ -51,8 +51,8 @@ class Computer {
 
   int slot_for_scala(const Target& target) const;
   int slot_for_same_rank(const Target& target) const;
-  unsigned ranks_to_add(const Target& target, int suit) const;
-  void lay_off(Target& target, int slot);
+  Slice ranks_to_add(const Target& target, int suit) const;
+  void lay_off(const Target& target, int slot);
   void tidy_hand(int seat);
 
   int suit_to_discard_from(int seat) const;

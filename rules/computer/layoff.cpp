@@ -3,10 +3,9 @@
 namespace tombrello {
 
 struct Computer::Target {
-  int seat;       // that adds
-  int owner;      // of the list
-  int first = 1;  // positions of the meld's first and last card
-  int last = 1;
+  int seat;   // that adds
+  int owner;  // of the list
+  Meld meld;
 };
 
 namespace {
@@ -24,42 +23,32 @@ bool is_lonely(Slice hand, int rank) {
 }  // namespace
 
 void Computer::Provo_Attacco(int seat, int owner) {
-  const auto& list = s_.calate[owner];
-  Target target{seat, owner};
-  while (target.first < s_.n_calate[owner]) {
-    target.last = target.first;
-    while (list[target.last + 1] != kSentinel) ++target.last;
-    const bool scala = melds_.is_scala(owner, target.last);
+  for (const Meld meld : melds_of(s_, owner)) {
+    const Target target{seat, owner, meld};
+    const bool scala = is_scala(s_.calate[owner], meld);
     const int slot = scala ? slot_for_scala(target) : slot_for_same_rank(target);
-    if (slot != kNoSlot) {
-      // A lay-off needs two more positions for a moment.
-      if (s_.n_calate[owner] > kListPositions - 2) return;
-      lay_off(target, slot);
-    }
-    target.first = target.last + 2;
+    if (slot == kNoSlot) continue;
+    // A lay-off needs two more positions for a moment.
+    if (s_.n_calate[owner] > kListPositions - 2) return;
+    lay_off(target, slot);
   }
 }
 
 // Ranks of the hand that go on an end of the scala. On its own list, with four cards or more, a
 // seat gives up a card only if nothing in its hand could still be built upon it.
-unsigned Computer::ranks_to_add(const Target& target, int suit) const {
+Slice Computer::ranks_to_add(const Target& target, int suit) const {
   const Slice hand = slice(target.seat, suit);
-  if (hand.empty()) return 0;
-  const auto& list = s_.calate[target.owner];
-  const int first = ValCarta(list[target.first]);
-  const int last = ValCarta(list[target.last]);
-  const bool hold_back = target.owner == target.seat && s_.n_mano[target.seat] >= kCardsToHoldBack;
-  unsigned ranks = 0;
-  for (const int rank : {first == 1 ? kRanks : first - 1, last == kRanks ? 1 : last + 1}) {
-    if (!hand.holds(rank) || (hold_back && !is_lonely(hand, rank))) continue;
-    ranks |= 1U << static_cast<unsigned>(rank - 1);
+  Slice ranks = hand & open_ends(s_.calate[target.owner], target.meld);
+  if (target.owner != target.seat || s_.n_mano[target.seat] < kCardsToHoldBack) return ranks;
+  for (int rank = 1; rank <= kRanks; ++rank) {
+    if (ranks.holds(rank) && !is_lonely(hand, rank)) ranks = ranks.without(rank);
   }
   return ranks;
 }
 
 int Computer::slot_for_scala(const Target& target) const {
-  const int suit = Seme(s_.calate[target.owner][target.last]);
-  const Slice ranks(ranks_to_add(target, suit));
+  const int suit = Seme(s_.calate[target.owner][target.meld.last]);
+  const Slice ranks = ranks_to_add(target, suit);
   if (ranks.empty()) return kNoSlot;
   const auto& mano = s_.mano[target.seat];
   int k = 1;
@@ -69,8 +58,8 @@ int Computer::slot_for_scala(const Target& target) const {
 
 int Computer::slot_for_same_rank(const Target& target) const {
   const auto& list = s_.calate[target.owner];
-  const int last = target.last;
-  if (last - target.first + 1 == 4) return kNoSlot;
+  const int last = target.meld.last;
+  if (target.meld.cards() == kPokerCards) return kNoSlot;
   const int suit = missing_suit(Seme(list[last]), Seme(list[last - 1]), Seme(list[last - 2]));
   // A scala that closed the circle after K♦ K♠ A♠ ends in two suits and reads as a tris.
   if (suit < 1 || suit > kSuits) return kNoSlot;
@@ -81,7 +70,7 @@ int Computer::slot_for_same_rank(const Target& target) const {
 
 // The last slot holds a copy of the pile's top card as long as the seat hasn't drawn: choosing
 // it takes the pile, and that is the draw of the turn.
-void Computer::lay_off(Target& target, int slot) {
+void Computer::lay_off(const Target& target, int slot) {
   const int seat = target.seat;
   const int owner = target.owner;
   if (slot == s_.n_mano[seat] && !s_.ha_pescato) {
@@ -96,14 +85,13 @@ void Computer::lay_off(Target& target, int slot) {
   s_.calate[owner][s_.n_calate[owner] - 1] = s_.mano[seat][slot];
   s_.calate[owner][s_.n_calate[owner]] = kSentinel;
   out_.events.added(seat, owner, s_.mano[seat][slot]);
-  s_.pos_attacco = static_cast<std::int16_t>(target.last);
-  const bool scala = melds_.is_scala(owner, target.last);
+  s_.pos_attacco = static_cast<std::int16_t>(target.meld.last);
+  const bool scala = is_scala(s_.calate[owner], target.meld);
   if (scala) {
     melds_.attacco_scala(owner);
   } else {
     melds_.attacco_poker(owner);
   }
-  ++target.last;
   s_.mano[seat][slot] = 0;
   tidy_hand(seat);
   if (scala) melds_.ord_crescente_calata(owner);

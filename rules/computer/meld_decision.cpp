@@ -47,7 +47,7 @@ bool Computer::lay_scala(int seat, int candidate) {
   try_candidate(seat, candidate);
   for (int suit = 1; suit <= kSuits; ++suit) {
     const Run run = longest_run(slice(seat, suit));
-    if (run.length < 3) continue;
+    if (run.length < kSmallestMeld) continue;
     if (!has_room(seat, run.length)) return false;
     s_.lunghezza_calata = run.length;
     s_.scelta_pesca = static_cast<std::uint8_t>(candidate);

@@ -4,9 +4,9 @@ namespace tombrello {
 namespace {
 
 int factor_of_meld(bool in_suit, int cards) {
-  if (!in_suit) return cards == 4 ? 2 : 1;  // poker, tris
-  if (cards >= 14) return 5;                // Tombrellone, and what was added to one
-  return cards >= 7 ? 2 : 1;                // Tombrello, scala
+  if (!in_suit) return cards == kPokerCards ? 2 : 1;
+  if (cards >= kTombrelloneCards) return 5;  // what was added to one doesn't count more
+  return cards >= kTombrelloCards ? 2 : 1;
 }
 
 }  // namespace
@@ -42,14 +42,11 @@ int Scoring::count_team(int team, int seat_out) const {
   int score = 0;
   for (const int seat : {team, team + 2}) {
     int cards = 0;  // of the last meld counted
-    int first = 1;
-    for (int k = 1; k <= s_.n_calate[seat]; ++k) {
-      if (s_.calate[seat][k] != kSentinel) continue;
-      score += points_of_meld(seat, first, k - 1);
-      cards = k - first;
-      first = k + 1;
+    for (const Meld meld : melds_of(s_, seat)) {
+      score += points_of_meld(seat, meld);
+      cards = meld.cards();
     }
-    if (cards == 13 && seat == partner_of(seat_out)) {
+    if (cards == kWholeSuitCards && seat == partner_of(seat_out)) {
       score *= 2;
       out_.events.counted_double(team);
     }
@@ -58,11 +55,11 @@ int Scoring::count_team(int team, int seat_out) const {
   return score;
 }
 
-int Scoring::points_of_meld(int seat, int first, int last) const {
+int Scoring::points_of_meld(int seat, Meld meld) const {
   const auto& list = s_.calate[seat];
   int points = 0;
-  for (int k = first; k <= last; ++k) points += s_.punti_carta[ValCarta(list[k])];
-  return points * factor_of_meld(Seme(list[last]) == Seme(list[last - 1]), last - first + 1);
+  for (int k = meld.first; k <= meld.last; ++k) points += s_.punti_carta[ValCarta(list[k])];
+  return points * factor_of_meld(is_scala(list, meld), meld.cards());
 }
 
 }  // namespace tombrello

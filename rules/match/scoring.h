@@ -2,6 +2,7 @@
 
 #include "cards/outside.h"
 #include "cards/state.h"
+#include "melds/meld_range.h"
 
 namespace tombrello {
 
@@ -21,7 +22,7 @@ class Scoring {
   void fill_punti_carta();
   void make_room_for_hand();
   int count_team(int team, int seat_out) const;
-  int points_of_meld(int seat, int first, int last) const;
+  int points_of_meld(int seat, Meld meld) const;
 
   State& s_;
   Outside out_;

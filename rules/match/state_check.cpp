@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "melds/meld_range.h"
+
 namespace tombrello {
 namespace {
 
@@ -29,15 +31,10 @@ std::string check_list(const State& s, int seat) {
   const int n = s.n_calate[seat];
   if (n > kListPositions || list[0] != 0) return at_seat("list out of bounds", seat);
   if (n > 0 && list[n] != kSentinel) return at_seat("list without its last sentinel", seat);
-  int cards = 0;
-  for (int k = 1; k <= n; ++k) {
-    const int entry = list[k];
-    if (entry == kSentinel) {
-      if (cards < 3) return at_seat("meld of fewer than three cards", seat);
-      cards = 0;
-    } else {
-      if (entry < 1 || entry > kCards) return at_seat("no card in a meld", seat);
-      ++cards;
+  for (const Meld meld : melds_of(s, seat)) {
+    if (meld.cards() < kSmallestMeld) return at_seat("meld of fewer than three cards", seat);
+    for (int k = meld.first; k <= meld.last; ++k) {
+      if (list[k] < 1 || list[k] > kCards) return at_seat("no card in a meld", seat);
     }
   }
   return {};
@@ -63,8 +60,8 @@ Count count_without_stock(const State& s) {
   Count count;
   for (int seat = 1; seat <= kSeats; ++seat) {
     for (int k = 1; k <= s.n_mano[seat]; ++k) count.add(s.mano[seat][k]);
-    for (int k = 1; k <= s.n_calate[seat]; ++k) {
-      if (s.calate[seat][k] != kSentinel) count.add(s.calate[seat][k]);
+    for (const Meld meld : melds_of(s, seat)) {
+      for (int k = meld.first; k <= meld.last; ++k) count.add(s.calate[seat][k]);
     }
   }
   for (int k = 0; k < s.n_pozzo; ++k) count.add(s.pozzo[k]);

@@ -2,26 +2,11 @@
 
 namespace tombrello {
 
-int Melds::first_of_meld(int seat, int last) const {
-  int k = last;
-  while (k > 1 && s_.calate[seat][k - 1] != kSentinel) --k;
-  return k;
-}
-
-bool Melds::is_scala(int seat, int last) const {
-  const auto& list = s_.calate[seat];
-  return Seme(list[last]) == Seme(list[last - 1]);
-}
-
-bool fits_scala(int rank, int first, int last) {
-  return follows(last, rank) || follows(rank, first);
-}
-
 void Melds::attacco_poker(int seat) {
   const auto& list = s_.calate[seat];
   const int last = s_.pos_attacco;
   s_.carta_scelta = static_cast<std::uint8_t>(list[s_.n_calate[seat] - 1]);
-  if (last - first_of_meld(seat, last) + 1 == 4) return;  // a poker takes no more cards
+  if (meld_up_to(list, last).cards() == kPokerCards) return;
   if (ValCarta(s_.carta_scelta) != ValCarta(list[last])) {
     s_.calata_ok = false;
     return;
@@ -35,9 +20,8 @@ void Melds::attacco_scala(int seat) {
   const auto& list = s_.calate[seat];
   s_.carta_scelta = static_cast<std::uint8_t>(list[s_.n_calate[seat] - 1]);
   s_.calata_ok = false;
-  const int first = ValCarta(list[first_of_meld(seat, s_.pos_attacco)]);
-  const int last = ValCarta(list[s_.pos_attacco]);
-  if (fits_scala(ValCarta(s_.carta_scelta), first, last)) insert_before_last(seat);
+  const Slice fitting = open_ends(list, meld_up_to(list, s_.pos_attacco));
+  if (fitting.holds(ValCarta(s_.carta_scelta))) insert_before_last(seat);
 }
 
 // The card lands in front of the target's last card; what follows moves up by one.

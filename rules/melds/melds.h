@@ -2,12 +2,11 @@
 
 #include "cards/geometry.h"
 #include "cards/state.h"
+#include "melds/meld_range.h"
 
 namespace tombrello {
 
-/// The lists of melds in `calate`: each meld's cards, then the sentinel 1000; positions 1..30.
-/// A meld's kind isn't stored: its last two suits tell it, equal for a scala, different for a
-/// tris or poker.
+/// What may be laid down: judges, orders and adds to the lists of melds in `calate`.
 class Melds {
  public:
   Melds(State& state, const Geometry& geometry) : s_(state), g_(geometry) {}
@@ -27,33 +26,23 @@ class Melds {
   void attacco_poker(int seat);
   void attacco_scala(int seat);
 
-  /// Position of the first card of the meld whose last card stands at `last`.
-  int first_of_meld(int seat, int last) const;
-  bool is_scala(int seat, int last) const;
-
  private:
   bool find_target(int seat, float x);
   bool add_single_card(int seat);
   bool all_valid(int seat) const;
   void join_neighbours(int seat);
-  bool joins_at(int seat, int sentinel) const;
+  bool meet(int seat, Meld before, Meld after) const;
   void remove_sentinel(int seat, int sentinel);
-  void order_meld(int seat, int first, int count);
+  void order_meld(int seat, Meld meld);
   void insert_before_last(int seat);
 
   State& s_;
   const Geometry& g_;
 };
 
-/// True if a card of rank `rank` goes on an end of a scala running from `first` to `last`.
-bool fits_scala(int rank, int first, int last);
 /// The suit that a tris lacks whose cards have these three suits.
 constexpr int missing_suit(int suit1, int suit2, int suit3) {
   return 10 - suit1 - suit2 - suit3;
-}
-/// True if rank `next` follows `rank` on the circle of ranks, where the Ace follows the King.
-constexpr bool follows(int rank, int next) {
-  return next - rank == 1 || next - rank == -12;
 }
 
 }  // namespace tombrello

@@ -1,4 +1,3 @@
-#include <array>
 #include <utility>
 
 #include "melds/melds.h"
@@ -6,21 +5,13 @@
 namespace tombrello {
 
 void Melds::ord_crescente_calata(int seat) {
-  const auto& list = s_.calate[seat];
-  int first = 1;
-  for (int k = 1; k <= s_.n_calate[seat]; ++k) {
-    if (list[k] != kSentinel) continue;
-    order_meld(seat, first, k - first);
-    first = k + 1;
-  }
+  for (const Meld meld : melds_of(s_, seat)) order_meld(seat, meld);
 }
 
 namespace {
 
-using WorkArray = std::array<std::int16_t, kListPositions + 1>;
-
 // Stable: cards of equal rank are never exchanged.
-void bubble_sort(WorkArray& calata_lavoro, int count) {
+void bubble_sort(MeldList& calata_lavoro, int count) {
   bool swapped = true;
   while (swapped) {
     swapped = false;
@@ -34,7 +25,7 @@ void bubble_sort(WorkArray& calata_lavoro, int count) {
 }
 
 // Slots up to the first place where a rank isn't one above the rank before it.
-int length_before_break(const WorkArray& calata_lavoro, int count) {
+int length_before_break(const MeldList& calata_lavoro, int count) {
   int e = 1;
   while (e < count && ValCarta(calata_lavoro[e + 1]) - ValCarta(calata_lavoro[e]) == 1) ++e;
   return e;
@@ -44,9 +35,11 @@ int length_before_break(const WorkArray& calata_lavoro, int count) {
 
 // Sorted by rank; then what lies behind the first break goes in front of the rest, so that a
 // scala through the Ace follows the circle.
-void Melds::order_meld(int seat, int first, int count) {
+void Melds::order_meld(int seat, Meld meld) {
   auto& list = s_.calate[seat];
-  WorkArray calata_lavoro{};
+  const int first = meld.first;
+  const int count = meld.cards();
+  MeldList calata_lavoro{};
   for (int e = 1; e <= count; ++e) calata_lavoro[e] = list[first + e - 1];
   bubble_sort(calata_lavoro, count);
   const int head = length_before_break(calata_lavoro, count);

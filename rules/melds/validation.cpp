@@ -23,7 +23,7 @@ bool Melds::find_target(int seat, float x) {
 // Answers whether the whole list is to be judged afterwards.
 bool Melds::add_single_card(int seat) {
   const auto& list = s_.calate[seat];
-  if (!is_scala(seat, s_.pos_attacco)) {
+  if (!is_scala(list, meld_up_to(list, s_.pos_attacco))) {
     attacco_poker(seat);
     return false;
   }
@@ -39,10 +39,8 @@ namespace {
 // Judges neighbours of one meld; remembers the suits of a same-rank meld.
 class PairTest {
  public:
-  void start_meld() { semi_calata_.fill('_'); }
-
   bool accepts(int left, int right) {
-    if (Seme(left) == Seme(right)) return follows(ValCarta(left), ValCarta(right));
+    if (Seme(left) == Seme(right)) return ValCarta(right) == rank_after(ValCarta(left));
     if (ValCarta(left) != ValCarta(right)) return false;
     mark(left) = '*';
     return mark(right) != '*';
@@ -58,35 +56,39 @@ class PairTest {
 
 bool Melds::all_valid(int seat) const {
   const auto& list = s_.calate[seat];
-  PairTest test;
-  for (int p = 2;; ++p) {
-    if (list[p] == kSentinel) {
-      p += 2;
-      if (p > s_.n_calate[seat]) return true;
-      test.start_meld();
+  for (const Meld meld : melds_of(s_, seat)) {
+    PairTest test;
+    for (int p = meld.first + 1; p <= meld.last; ++p) {
+      if (!test.accepts(list[p - 1], list[p])) return false;
     }
-    if (!test.accepts(list[p - 1], list[p])) return false;
   }
+  return true;
 }
 
-// Looks at every sentinel but the last, from left to right, and never goes back to one.
+// Looks at every sentinel but the last, from left to right, and never goes back to one: a meld
+// just joined is held against the next with its cards as they lie.
 void Melds::join_neighbours(int seat) {
-  for (int b = 1; b < s_.n_calate[seat]; ++b) {
-    if (s_.calate[seat][b] == kSentinel && joins_at(seat, b)) remove_sentinel(seat, b);
+  const auto& list = s_.calate[seat];
+  Meld before = meld_from(list, 1);
+  while (before.sentinel() < s_.n_calate[seat]) {
+    const Meld after = meld_from(list, before.sentinel() + 1);
+    if (meet(seat, before, after)) {
+      remove_sentinel(seat, before.sentinel());
+      before.last = after.last - 1;
+    } else {
+      before = after;
+    }
   }
 }
 
-bool Melds::joins_at(int seat, int sentinel) const {
+bool Melds::meet(int seat, Meld before, Meld after) const {
   const auto& list = s_.calate[seat];
   auto rank = [&](int position) { return ValCarta(list[position]); };
-  const int before = sentinel - 1;
-  const int after = sentinel + 1;
-  if (rank(before) == rank(before - 1) || rank(after) == rank(after + 1)) return false;
-  if (Seme(list[before]) != Seme(list[after])) return false;
-  int last = after;
-  while (list[last + 1] != kSentinel) ++last;
-  return follows(rank(before), rank(after)) ||
-         follows(rank(last), rank(first_of_meld(seat, before)));
+  if (rank(before.last) == rank(before.last - 1)) return false;
+  if (rank(after.first) == rank(after.first + 1)) return false;
+  if (Seme(list[before.last]) != Seme(list[after.first])) return false;
+  return rank(after.first) == rank_after(rank(before.last)) ||
+         rank(before.first) == rank_after(rank(after.last));
 }
 
 void Melds::remove_sentinel(int seat, int sentinel) {

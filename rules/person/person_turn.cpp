@@ -112,9 +112,9 @@ std::array<std::int16_t, kHandSlots> PersonTurn::selected_cards() const {
 
 Cards PersonTurn::meld_at(int side, int last) const {
   if (last == 0) return {};
-  const int first = melds_.first_of_meld(side, last);
+  const Meld meld = meld_up_to(s_.calate[side], last);
   return Cards(s_.calate[side])
-      .subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(last - first + 1));
+      .subspan(static_cast<std::size_t>(meld.first), static_cast<std::size_t>(meld.cards()));
 }
 
 void PersonTurn::tell_refusal(Refusal why, Cards meld) {

@@ -279,7 +279,7 @@ TEST(OddMeld, GrownRoundTheCircleHarmsNobody) {
     Deal d;
     d.table(1, std::string(king) + " Ks As 2s 3s 4s 5s 6s 7s 8s 9s 10s Js");
     ASSERT_TRUE(propose(d, 1, "Qs", 291));
-    ASSERT_FALSE(d.rules.melds.is_scala(1, d.s.n_calate[1] - 1)) << d.table_text(1);
+    ASSERT_FALSE(is_scala(d.s.calate[1], meld_from(d.s.calate[1], 1))) << d.table_text(1);
     const auto before = d.table_text(1);
     d.s.di_turno = 3;
     d.s.ha_pescato = true;

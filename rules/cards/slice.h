@@ -8,11 +8,12 @@
 
 namespace tombrello {
 
-/// One suit's thirteen characters of a presence string, read once as bits: bit r - 1 is set
-/// where rank r is held. The searches of the computer seats look for patterns in it.
+/// A set of ranks, such as those that a hand holds of one suit: bit r - 1 stands for rank r. The
+/// searches of the computer seats look for patterns in it.
 class Slice {
  public:
   explicit constexpr Slice(unsigned bits) : bits_(bits) {}
+  static constexpr Slice of(int rank) { return Slice(1U << (rank - 1)); }
   /// `characters` are thirteen, '*' or '_', Ace to King.
   static Slice read(const char* characters) {
     return Slice(read_eight(characters) | read_eight(characters + kRanks - 8) << (kRanks - 8));
@@ -21,6 +22,9 @@ class Slice {
   constexpr unsigned bits() const { return bits_; }
   constexpr bool empty() const { return bits_ == 0; }
   constexpr int count() const { return std::popcount(bits_); }
+  constexpr Slice operator|(Slice other) const { return Slice(bits_ | other.bits_); }
+  constexpr Slice operator&(Slice other) const { return Slice(bits_ & other.bits_); }
+  constexpr Slice without(int rank) const { return Slice(bits_ & ~of(rank).bits_); }
   constexpr bool holds(int rank) const { return (bits_ >> (rank - 1) & 1U) != 0; }
   /// The lowest rank held; there must be one.
   constexpr int lowest() const { return std::countr_zero(bits_) + 1; }
