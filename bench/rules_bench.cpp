@@ -68,29 +68,29 @@ void decide(benchmark::State& run, Decision decision) {
   Rules rules(state, geometry, clock, {table, wait, sound, shell, events});
   for (auto _ : run) {
     state = positions.next();
-    decision(rules.computer, state);
+    decision(rules, state);
     benchmark::DoNotOptimize(state);
   }
 }
 
 void copy_of_state(benchmark::State& run) {
-  decide(run, [](Computer&, State&) {});
+  decide(run, [](Rules&, State&) {});
 }
 BENCHMARK(copy_of_state);
 
 void decido_calata(benchmark::State& run) {
-  decide(run, [](Computer& computer, State& s) { computer.decido_calata(s.di_turno); });
+  decide(run, [](Rules& rules, State& s) { rules.meld_decision.decido_calata(s.di_turno); });
 }
 BENCHMARK(decido_calata);
 
 void Provo_Attacco(benchmark::State& run) {
-  decide(run, [](Computer& computer, State& s) { computer.Provo_Attacco(s.di_turno, s.di_turno); });
+  decide(run, [](Rules& rules, State& s) { rules.lay_off.Provo_Attacco(s.di_turno, s.di_turno); });
 }
 BENCHMARK(Provo_Attacco);
 
 void scarto_carta(benchmark::State& run) {
-  decide(run, [](Computer& computer, State& s) {
-    if (s.n_pozzo < kPack) computer.scarto_carta(s.di_turno);
+  decide(run, [](Rules& rules, State& s) {
+    if (s.n_pozzo < kPack) rules.discard.scarto_carta(s.di_turno);
   });
 }
 BENCHMARK(scarto_carta);

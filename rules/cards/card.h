@@ -21,6 +21,11 @@ constexpr int back_number(int card) {
   return card > kPack ? 1 : 0;
 }
 
+/// The card of the first pack of a suit 1..4 and a rank 1..13.
+constexpr int card_of(int suit, int rank) {
+  return (suit - 1) * kRanks + rank;
+}
+
 /// Suit 1..4 of a bare card code 0..104; 0 for no card.
 constexpr int Seme(int card) {
   const int twin = first_pack_twin(card);

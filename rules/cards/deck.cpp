@@ -115,6 +115,14 @@ void Deck::take_from_stock(int seat) {
   out_.table.stock_shows(back_number(s_.mazzo[s_.tallone]));
 }
 
+void Deck::pesco_carta(int seat, int source) {
+  if (source == kFromPile) {
+    take_from_pile(seat);
+  } else {
+    take_from_stock(seat);
+  }
+}
+
 void Deck::add_to_hand(int seat, std::int16_t card) {
   ++s_.n_mano[seat];
   s_.mano[seat][s_.n_mano[seat]] = card;

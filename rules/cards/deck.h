@@ -6,6 +6,10 @@
 
 namespace tombrello {
 
+/// Where a computer seat draws from, and the number of the candidate that lies there.
+inline constexpr int kFromPile = 1;
+inline constexpr int kFromStock = 2;
+
 /// Shuffle, deal, stock and pile.
 class Deck {
  public:
@@ -26,6 +30,8 @@ class Deck {
   /// room for it, and show what pile or stock then hold.
   void take_from_pile(int seat);
   void take_from_stock(int seat);
+  /// The draw of a computer seat, from `kFromPile` or `kFromStock`.
+  void pesco_carta(int seat, int source);
   /// A bare card code; shows nothing. The pile holds fewer than 52 cards.
   void add_to_pile(int card);
   /// The pile holds a card.

@@ -1,5 +1,6 @@
 #include "cards/hands.h"
 
+#include <cassert>
 #include <utility>
 
 namespace tombrello {
@@ -29,8 +30,31 @@ void Hands::raggruppo_carte(int seat) {
 }
 
 void Hands::rebuild_presenze(int seat) {
-  s_.presenze[seat].clear();
-  for (int k = 1; k <= s_.n_mano[seat]; ++k) s_.presenze[seat].mark(s_.mano[seat][k]);
+  s_.presenze[seat] = presenze_of(seat);
+}
+
+bool Hands::presenze_agree(int seat) const {
+  return s_.presenze[seat] == presenze_of(seat);
+}
+
+PresenceString Hands::presenze_of(int seat) const {
+  PresenceString held;
+  for (int k = 1; k <= s_.n_mano[seat]; ++k) held.mark(s_.mano[seat][k]);
+  return held;
+}
+
+void Hands::tidy(int seat) {
+  riduco_carte(seat);
+  rebuild_presenze(seat);
+}
+
+int Hands::first_slot_with(int seat, int first_pack_code) const {
+  const auto& mano = s_.mano[seat];
+  for (int k = 1; k <= s_.n_mano[seat]; ++k) {
+    if (first_pack_twin(mano[k]) == first_pack_code) return k;
+  }
+  assert(!"the hand holds the card");
+  return 0;
 }
 
 }  // namespace tombrello

@@ -17,8 +17,16 @@ class Hands {
   void raggruppo_carte(int seat);
   /// Makes the presence string agree with slots 1..`n_mano`.
   void rebuild_presenze(int seat);
+  bool presenze_agree(int seat) const;
+  /// What a computer hand needs after it has changed: both of the above.
+  void tidy(int seat);
+
+  /// The first slot that holds a card of either pack; the hand must hold one.
+  int first_slot_with(int seat, int first_pack_code) const;
 
  private:
+  PresenceString presenze_of(int seat) const;
+
   State& s_;
 };
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cards/card.h"
+#include "cards/slice.h"
 
 namespace tombrello {
 
@@ -33,8 +34,8 @@ class PresenceString {
   void clear() { marks_.fill('_'); }
   void mark(int card) { marks_[static_cast<std::size_t>(presence_position(card) - 1)] = '*'; }
   bool holds(int position) const { return marks_[static_cast<std::size_t>(position - 1)] == '*'; }
-  /// The 13 characters of a suit index 0..3, Ace to King.
-  const char* slice(int suit_index) const { return marks_.data() + suit_index * kRanks; }
+  /// The ranks held of a suit 1..4.
+  Slice slice(int suit) const { return Slice::read(marks_.data() + (suit - 1) * kRanks); }
   bool operator==(const PresenceString&) const = default;
 
  private:

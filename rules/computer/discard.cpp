@@ -1,4 +1,6 @@
-#include "computer/computer.h"
+#include "computer/discard.h"
+
+#include <cassert>
 
 namespace tombrello {
 namespace {
@@ -27,7 +29,8 @@ int rank_to_discard(Slice slice) {
 
 }  // namespace
 
-void Computer::scarto_carta(int seat) {
+void Discard::scarto_carta(int seat) {
+  assert(s_.n_mano[seat] > 0 && hands_.presenze_agree(seat));
   int slot = slot_by_shape(seat);
   if (slot == kNone) slot = slot_of_twin(seat);
   if (slot == kNone) slot = slot_by_chance(seat);
@@ -41,11 +44,11 @@ void Computer::scarto_carta(int seat) {
 
 // The suit held with the fewest ranks, the first of equals. All thirteen ranks leave no gap, and
 // such a suit is never chosen.
-int Computer::suit_to_discard_from(int seat) const {
+int Discard::suit_to_discard_from(int seat) const {
   int best_gaps = 0;
   int chosen = kNone;
   for (int suit = 1; suit <= kSuits; ++suit) {
-    const Slice held = slice(seat, suit);
+    const Slice held = s_.presenze[seat].slice(suit);
     const int gaps = kRanks - held.count();
     if (held.empty() || gaps <= best_gaps) continue;
     best_gaps = gaps;
@@ -54,16 +57,16 @@ int Computer::suit_to_discard_from(int seat) const {
   return chosen;
 }
 
-int Computer::slot_by_shape(int seat) const {
+int Discard::slot_by_shape(int seat) const {
   const int suit = suit_to_discard_from(seat);
   if (suit == kNone) return kNone;
-  const int rank = rank_to_discard(slice(seat, suit));
+  const int rank = rank_to_discard(s_.presenze[seat].slice(suit));
   if (rank == kNone) return kNone;
-  return first_slot_with(seat, (suit - 1) * kRanks + rank);
+  return hands_.first_slot_with(seat, card_of(suit, rank));
 }
 
 // Only neighbouring slots are compared.
-int Computer::slot_of_twin(int seat) const {
+int Discard::slot_of_twin(int seat) const {
   const auto& mano = s_.mano[seat];
   for (int k = 1; k < s_.n_mano[seat]; ++k) {
     const int difference = mano[k] - mano[k + 1];
@@ -72,7 +75,7 @@ int Computer::slot_of_twin(int seat) const {
   return kNone;
 }
 
-int Computer::slot_by_chance(int seat) {
+int Discard::slot_by_chance(int seat) {
   return static_cast<int>(s_.n_mano[seat] * random_.next()) + 1;
 }
 

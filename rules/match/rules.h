@@ -11,7 +11,10 @@ struct Rules {
         deck(state, random, outside),
         hands(state),
         melds(state, geometry),
-        computer(state, random, deck, hands, melds, outside),
+        meld_decision(state, deck, hands, outside),
+        lay_off(state, deck, hands, melds, outside),
+        discard(state, random, deck, hands, outside),
+        computer(state, deck, hands, meld_decision, lay_off, discard, outside),
         person(state, geometry, deck, hands, melds, outside),
         draw(state, geometry, deck, outside),
         scoring(state, outside),
@@ -23,6 +26,9 @@ struct Rules {
   Deck deck;
   Hands hands;
   Melds melds;
+  MeldDecision meld_decision;
+  LayOff lay_off;
+  Discard discard;
   Computer computer;
   PersonTurn person;
   DealerDraw draw;

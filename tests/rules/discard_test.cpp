@@ -36,7 +36,7 @@ int suit_by_shape(const std::vector<int>& hand) {
 
 int discarded_slot(Deal& d, int seat, const std::vector<int>& hand) {
   d.hand(seat, hand);
-  d.rules.computer.scarto_carta(seat);
+  d.rules.discard.scarto_carta(seat);
   int slot = 0;
   for (int k = 1; k <= static_cast<int>(hand.size()); ++k) {
     if (d.s.mano[seat][k] != 0) continue;

@@ -43,7 +43,7 @@ Found search(const std::vector<int>& hand, const std::vector<int>& candidates) {
 
 void decide(Deal& d, int seat) {
   d.s.presenze_salvate = d.s.presenze[seat];
-  d.rules.computer.decido_calata(seat);
+  d.rules.meld_decision.decido_calata(seat);
 }
 
 // On random hands of every size the seat takes the candidate and lays the meld that the search

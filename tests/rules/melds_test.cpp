@@ -285,7 +285,7 @@ TEST(OddMeld, GrownRoundTheCircleHarmsNobody) {
     d.s.ha_pescato = true;
     d.hand(2, "Kh Kd Kc Ks");
     d.hand(3, "5h 9d Jc 2d 8c");
-    d.rules.computer.Provo_Attacco(3, 1);
+    d.rules.lay_off.Provo_Attacco(3, 1);
     EXPECT_EQ(d.table_text(1), before);
     EXPECT_EQ(d.hand_text(3), "5h 9d Jc 2d 8c");
   }

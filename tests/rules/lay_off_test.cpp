@@ -52,7 +52,7 @@ TEST(LayOff, ToldCases) {
     d.s.ha_pescato = c.drawn;
     const int last = d.hand_of(2).back();
     d.pile("Kc " + name_of(last));
-    d.rules.computer.Provo_Attacco(2, c.owner);
+    d.rules.lay_off.Provo_Attacco(2, c.owner);
     EXPECT_EQ(d.table_text(c.owner), c.after);
     EXPECT_EQ(d.hand_text(2), c.left);
     const auto left = d.hand_of(2);
@@ -74,7 +74,7 @@ TEST(LayOff, NeverPassesTheListsThirtyPositions) {
     ASSERT_EQ(d.s.n_calate[4], room ? 28 : 29);
     d.hand(2, "2s 4s 6s Ks");
     d.pile("Kc Ks");
-    d.rules.computer.Provo_Attacco(2, 4);
+    d.rules.lay_off.Provo_Attacco(2, 4);
     EXPECT_EQ(d.s.n_calate[4], 29);
     EXPECT_EQ(d.s.ha_pescato, room);
     EXPECT_EQ(d.hand_text(2), room ? "2s 4s 6s" : "2s 4s 6s Ks");

@@ -1,8 +1,10 @@
-#include "computer/computer.h"
+#include "computer/lay_off.h"
+
+#include <cassert>
 
 namespace tombrello {
 
-struct Computer::Target {
+struct LayOff::Target {
   int seat;   // that adds
   int owner;  // of the list
   Meld meld;
@@ -22,7 +24,8 @@ bool is_lonely(Slice hand, int rank) {
 
 }  // namespace
 
-void Computer::Provo_Attacco(int seat, int owner) {
+void LayOff::Provo_Attacco(int seat, int owner) {
+  assert(hands_.presenze_agree(seat));
   for (const Meld meld : melds_of(s_, owner)) {
     const Target target{seat, owner, meld};
     const bool scala = is_scala(s_.calate[owner], meld);
@@ -30,78 +33,77 @@ void Computer::Provo_Attacco(int seat, int owner) {
     if (slot == kNoSlot) continue;
     // A lay-off needs two more positions for a moment.
     if (s_.n_calate[owner] > kListPositions - 2) return;
-    lay_off(target, slot);
+    lay(target, slot);
   }
 }
 
 // Ranks of the hand that go on an end of the scala. On its own list, with four cards or more, a
 // seat gives up a card only if nothing in its hand could still be built upon it.
-Slice Computer::ranks_to_add(const Target& target, int suit) const {
-  const Slice hand = slice(target.seat, suit);
+Slice LayOff::ranks_to_add(const Target& target, int suit) const {
+  const Slice hand = s_.presenze[target.seat].slice(suit);
   Slice ranks = hand & open_ends(s_.calate[target.owner], target.meld);
   if (target.owner != target.seat || s_.n_mano[target.seat] < kCardsToHoldBack) return ranks;
-  for (int rank = 1; rank <= kRanks; ++rank) {
-    if (ranks.holds(rank) && !is_lonely(hand, rank)) ranks = ranks.without(rank);
+  for (Slice left = ranks; !left.empty(); left = left.without(left.lowest())) {
+    if (!is_lonely(hand, left.lowest())) ranks = ranks.without(left.lowest());
   }
   return ranks;
 }
 
-int Computer::slot_for_scala(const Target& target) const {
+int LayOff::slot_for_scala(const Target& target) const {
   const int suit = Seme(s_.calate[target.owner][target.meld.last]);
   const Slice ranks = ranks_to_add(target, suit);
   if (ranks.empty()) return kNoSlot;
   const auto& mano = s_.mano[target.seat];
-  int k = 1;
-  while (Seme(mano[k]) != suit || !ranks.holds(ValCarta(mano[k]))) ++k;
-  return k;
+  for (int k = 1; k <= s_.n_mano[target.seat]; ++k) {
+    if (Seme(mano[k]) == suit && ranks.holds(ValCarta(mano[k]))) return k;
+  }
+  return kNoSlot;
 }
 
-int Computer::slot_for_same_rank(const Target& target) const {
+int LayOff::slot_for_same_rank(const Target& target) const {
+  if (target.meld.cards() == kPokerCards) return kNoSlot;
   const auto& list = s_.calate[target.owner];
   const int last = target.meld.last;
-  if (target.meld.cards() == kPokerCards) return kNoSlot;
   const int suit = missing_suit(Seme(list[last]), Seme(list[last - 1]), Seme(list[last - 2]));
   // A scala that closed the circle after K♦ K♠ A♠ ends in two suits and reads as a tris.
   if (suit < 1 || suit > kSuits) return kNoSlot;
-  const int rank = ValCarta(list[last]);
-  if (!slice(target.seat, suit).holds(rank)) return kNoSlot;
-  return first_slot_with(target.seat, (suit - 1) * kRanks + rank);
+  const int code = card_of(suit, ValCarta(list[last]));
+  return s_.presenze[target.seat].holds(code) ? hands_.first_slot_with(target.seat, code) : kNoSlot;
 }
 
-// The last slot holds a copy of the pile's top card as long as the seat hasn't drawn: choosing
-// it takes the pile, and that is the draw of the turn.
-void Computer::lay_off(const Target& target, int slot) {
+void LayOff::lay(const Target& target, int slot) {
   const int seat = target.seat;
-  const int owner = target.owner;
-  if (slot == s_.n_mano[seat] && !s_.ha_pescato) {
-    --s_.n_mano[seat];
-    s_.holds_copy = false;
-    pesco_carta(seat, 1);
-    s_.ha_pescato = true;
-    tidy_hand(seat);
-  }
+  if (slot == s_.n_mano[seat] && !s_.ha_pescato) take_pile(seat);
   out_.table.ridisegno_dorsi(seat);
-  s_.n_calate[owner] = static_cast<std::uint8_t>(s_.n_calate[owner] + 2);
-  s_.calate[owner][s_.n_calate[owner] - 1] = s_.mano[seat][slot];
-  s_.calate[owner][s_.n_calate[owner]] = kSentinel;
-  out_.events.added(seat, owner, s_.mano[seat][slot]);
-  s_.pos_attacco = static_cast<std::int16_t>(target.meld.last);
-  const bool scala = is_scala(s_.calate[owner], target.meld);
-  if (scala) {
-    melds_.attacco_scala(owner);
-  } else {
-    melds_.attacco_poker(owner);
-  }
+  out_.events.added(seat, target.owner, s_.mano[seat][slot]);
+  add_to_meld(target, s_.mano[seat][slot]);
   s_.mano[seat][slot] = 0;
-  tidy_hand(seat);
-  if (scala) melds_.ord_crescente_calata(owner);
-  out_.table.calo_carte(owner);
+  hands_.tidy(seat);
+  out_.table.calo_carte(target.owner);
   out_.sound.beep();
 }
 
-void Computer::tidy_hand(int seat) {
-  hands_.riduco_carte(seat);
-  hands_.rebuild_presenze(seat);
+// The real card takes the slot of its copy.
+void LayOff::take_pile(int seat) {
+  --s_.n_mano[seat];
+  s_.holds_copy = false;
+  deck_.pesco_carta(seat, kFromPile);
+  s_.ha_pescato = true;
+}
+
+void LayOff::add_to_meld(const Target& target, std::int16_t card) {
+  const int owner = target.owner;
+  auto& list = s_.calate[owner];
+  const bool scala = is_scala(list, target.meld);
+  list[++s_.n_calate[owner]] = card;
+  list[++s_.n_calate[owner]] = kSentinel;
+  s_.pos_attacco = static_cast<std::int16_t>(target.meld.last);
+  if (scala) {
+    melds_.attacco_scala(owner);
+    melds_.ord_crescente_calata(owner);
+  } else {
+    melds_.attacco_poker(owner);
+  }
 }
 
 }  // namespace tombrello
