@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cassert>
+
 namespace tombrello {
 
 /// Card codes: 1..52 the first pack and 53..104 the second, suit by suit (1 hearts, 2 diamonds,
@@ -11,18 +13,26 @@ inline constexpr int kSuits = 4;
 inline constexpr int kSelected = 1000;  ///< added to a selected card of seat 1
 inline constexpr int kSentinel = 1000;  ///< closes a meld
 
+/// True for a bare card code or an empty slot, which is what the functions below take.
+constexpr bool is_bare(int card) {
+  return 0 <= card && card <= kCards;
+}
+
 /// The card of the first pack with the same face. Also the number of its face picture.
 constexpr int first_pack_twin(int card) {
+  assert(is_bare(card));
   return card > kPack ? card - kPack : card;
 }
 
 /// The number of the picture of a card's back.
 constexpr int back_number(int card) {
+  assert(is_bare(card));
   return card > kPack ? 1 : 0;
 }
 
 /// The card of the first pack of a suit 1..4 and a rank 1..13.
 constexpr int card_of(int suit, int rank) {
+  assert(1 <= suit && suit <= kSuits && 1 <= rank && rank <= kRanks);
   return (suit - 1) * kRanks + rank;
 }
 

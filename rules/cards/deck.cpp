@@ -1,5 +1,7 @@
 #include "cards/deck.h"
 
+#include <cassert>
+
 namespace tombrello {
 namespace {
 
@@ -28,6 +30,7 @@ void Deck::shuffle_into(int first, int count) {
 }
 
 void Deck::daicarte() {
+  assert(1 <= s_.cartaro && s_.cartaro <= kSeats);
   out_.table.Posiziona_Players();
   out_.sound.Apri_suono("carta");
   out_.table.stock_shows(0);
@@ -51,6 +54,7 @@ void Deck::deal_packet(int seat, int first) {
     const int slot = first + k - 1;
     out_.wait.ritardo(0.03F);
     show_dealt(seat, k, slot);
+    assert(s_.n_mano[seat] == kHandCards);
     s_.mano[seat][k] = s_.mazzo[slot];
     s_.presenze[seat].mark(s_.mazzo[slot]);
   }
@@ -72,6 +76,7 @@ void Deck::turn_up_first_card() {
 }
 
 void Deck::Rimescola() {
+  assert(s_.n_pozzo == kPack);
   out_.wait.ritardo(0.1F);
   out_.table.reshuffle_message();
   out_.table.reshuffle_begins();
@@ -102,6 +107,7 @@ void Deck::take_from_pile(int seat) {
 }
 
 void Deck::take_from_stock(int seat) {
+  assert(kFirstStock <= s_.tallone && s_.tallone <= kCards);
   const std::int16_t card = s_.mazzo[s_.tallone];
   add_to_hand(seat, card);
   out_.events.drew(seat, 0);
@@ -124,11 +130,13 @@ void Deck::pesco_carta(int seat, int source) {
 }
 
 void Deck::add_to_hand(int seat, std::int16_t card) {
+  assert(s_.n_mano[seat] < kHandSlots);
   ++s_.n_mano[seat];
   s_.mano[seat][s_.n_mano[seat]] = card;
 }
 
 void Deck::add_to_pile(int card) {
+  assert(1 <= card && card <= kCards && s_.n_pozzo < kPack);
   ++s_.n_pozzo;
   s_.pozzo[s_.n_pozzo - 1] = static_cast<std::int16_t>(card);
 }

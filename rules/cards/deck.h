@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cassert>
+
 #include "cards/outside.h"
 #include "cards/random.h"
 #include "cards/state.h"
@@ -19,7 +21,7 @@ class Deck {
   void Mescola();
   /// Deals `mazzo`; `cartaro` is 1..4 and every `n_mano` 13.
   void daicarte();
-  /// Turns the 52 cards of the pile into a new pile and stock.
+  /// Turns the pile, which holds 52 cards, into a new pile and stock.
   void Rimescola();
   /// Called when a turn is over: the pile holds 52 cards exactly when the stock is empty.
   void reshuffle_when_full() {
@@ -27,7 +29,7 @@ class Deck {
   }
 
   /// Move the top of the pile, or the next stock card, to the next slot of a hand, which has
-  /// room for it, and show what pile or stock then hold.
+  /// room for it, and show what pile or stock then hold. There must be such a card.
   void take_from_pile(int seat);
   void take_from_stock(int seat);
   /// The draw of a computer seat, from `kFromPile` or `kFromStock`.
@@ -35,7 +37,10 @@ class Deck {
   /// A bare card code; shows nothing. The pile holds fewer than 52 cards.
   void add_to_pile(int card);
   /// The pile holds a card.
-  int top_of_pile() const { return s_.pozzo[static_cast<std::size_t>(s_.n_pozzo - 1)]; }
+  int top_of_pile() const {
+    assert(s_.n_pozzo > 0);
+    return s_.pozzo[static_cast<std::size_t>(s_.n_pozzo - 1)];
+  }
 
  private:
   void shuffle_into(int first, int count);

@@ -6,6 +6,7 @@
 namespace tombrello {
 
 void Hands::riduco_carte(int seat) {
+  assert(s_.n_mano[seat] <= kHandSlots);
   auto& mano = s_.mano[seat];
   int count = 0;
   // Slots are only ever copied downward, so that the hand serves as its own work array.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <random>
 
@@ -16,7 +17,10 @@ class Random {
   explicit Random(Clock& clock) : clock_(clock) { seed_from_clock(); }
 
   /// Starts the sequence over; each negative number is a sequence of its own.
-  void reset(int negative) { engine_.seed(static_cast<std::uint64_t>(std::int64_t{negative})); }
+  void reset(int negative) {
+    assert(negative < 0);
+    engine_.seed(static_cast<std::uint64_t>(std::int64_t{negative}));
+  }
   void seed_from_clock() { engine_.seed(engine_() ^ clock_.reading()); }
   /// Uniform, 0 <= r < 1.
   double next() { return static_cast<double>(engine_() >> 11U) * 0x1p-53; }

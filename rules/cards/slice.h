@@ -1,6 +1,7 @@
 #pragma once
 
 #include <bit>
+#include <cassert>
 #include <cstdint>
 #include <cstring>
 
@@ -13,7 +14,10 @@ namespace tombrello {
 class Slice {
  public:
   explicit constexpr Slice(unsigned bits) : bits_(bits) {}
-  static constexpr Slice of(int rank) { return Slice(1U << (rank - 1)); }
+  static constexpr Slice of(int rank) {
+    assert(1 <= rank && rank <= kRanks);
+    return Slice(1U << (rank - 1));
+  }
   /// `characters` are thirteen, '*' or '_', Ace to King.
   static Slice read(const char* characters) {
     return Slice(read_eight(characters) | read_eight(characters + kRanks - 8) << (kRanks - 8));
@@ -25,9 +29,12 @@ class Slice {
   constexpr Slice operator|(Slice other) const { return Slice(bits_ | other.bits_); }
   constexpr Slice operator&(Slice other) const { return Slice(bits_ & other.bits_); }
   constexpr Slice without(int rank) const { return Slice(bits_ & ~of(rank).bits_); }
-  constexpr bool holds(int rank) const { return (bits_ >> (rank - 1) & 1U) != 0; }
+  constexpr bool holds(int rank) const { return (bits_ & of(rank).bits_) != 0; }
   /// The lowest rank held; there must be one.
-  constexpr int lowest() const { return std::countr_zero(bits_) + 1; }
+  constexpr int lowest() const {
+    assert(!empty());
+    return std::countr_zero(bits_) + 1;
+  }
   /// True if the slice holds none of the ranks from..to.
   constexpr bool lacks(int from, int to) const {
     return (bits_ & ((2U << (to - 1)) - (1U << (from - 1)))) == 0;

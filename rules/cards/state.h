@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -19,10 +20,13 @@ inline constexpr int kListPositions = 30;  ///< positions 1..30 of a list of mel
 inline constexpr int kLastRow = 10;        ///< rows 0..10 of `punti_mano`
 inline constexpr int kWinningTotal = 1500;
 
+/// The seat that plays next; without a seat, 0, the first.
 constexpr int next_seat(int seat) {
+  assert(0 <= seat && seat <= kSeats);
   return seat == kSeats ? 1 : seat + 1;
 }
 constexpr int partner_of(int seat) {
+  assert(1 <= seat && seat <= kSeats);
   return seat > 2 ? seat - 2 : seat + 2;
 }
 
@@ -33,6 +37,7 @@ class PresenceString {
   PresenceString() { clear(); }
   void clear() { marks_.fill('_'); }
   void mark(int card) { marks_[static_cast<std::size_t>(presence_position(card) - 1)] = '*'; }
+  /// By first-pack code.
   bool holds(int position) const { return marks_[static_cast<std::size_t>(position - 1)] == '*'; }
   /// The ranks held of a suit 1..4.
   Slice slice(int suit) const { return Slice::read(marks_.data() + (suit - 1) * kRanks); }

@@ -1,5 +1,7 @@
 #include "match/scoring.h"
 
+#include <cassert>
+
 namespace tombrello {
 namespace {
 
@@ -18,6 +20,7 @@ void Scoring::risultato() {
   fill_punti_carta();
   int seat_out = 1;
   while (seat_out < kSeats && s_.n_mano[seat_out] != 0) ++seat_out;
+  assert(s_.n_mano[seat_out] == 0);
   make_room_for_hand();
   auto& row = s_.punti_mano[row_of(s_.numero_mano)];
   for (int team = 1; team <= 2; ++team) {

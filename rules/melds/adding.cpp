@@ -1,10 +1,22 @@
 #include "melds/melds.h"
 
+#include <cassert>
+
 namespace tombrello {
+
+// The card to be added is the last meld of the list, closed, and the target an earlier one.
+bool Melds::stands_alone_behind(int seat, int target) const {
+  const auto& list = s_.calate[seat];
+  const int end = s_.n_calate[seat];
+  return 1 <= target && target < end - 2 && list[target] != kSentinel &&
+         list[target + 1] == kSentinel && list[end - 2] == kSentinel &&
+         list[end - 1] != kSentinel && list[end] == kSentinel;
+}
 
 void Melds::attacco_poker(int seat) {
   const auto& list = s_.calate[seat];
   const int last = s_.pos_attacco;
+  assert(stands_alone_behind(seat, last) && !is_scala(list, meld_up_to(list, last)));
   s_.carta_scelta = static_cast<std::uint8_t>(list[s_.n_calate[seat] - 1]);
   if (meld_up_to(list, last).cards() == kPokerCards) return;
   if (ValCarta(s_.carta_scelta) != ValCarta(list[last])) {
@@ -18,6 +30,9 @@ void Melds::attacco_poker(int seat) {
 
 void Melds::attacco_scala(int seat) {
   const auto& list = s_.calate[seat];
+  assert(stands_alone_behind(seat, s_.pos_attacco) &&
+         is_scala(list, meld_up_to(list, s_.pos_attacco)) &&
+         Seme(list[s_.pos_attacco]) == Seme(list[s_.n_calate[seat] - 1]));
   s_.carta_scelta = static_cast<std::uint8_t>(list[s_.n_calate[seat] - 1]);
   s_.calata_ok = false;
   const Slice fitting = open_ends(list, meld_up_to(list, s_.pos_attacco));

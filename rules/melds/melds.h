@@ -11,9 +11,10 @@ class Melds {
  public:
   Melds(State& state, const Geometry& geometry) : s_(state), g_(geometry) {}
 
-  /// Judges the proposal that stands as the last meld of the list of seat 1 or 3; `calata_ok`
-  /// is the verdict. A single card goes to the meld whose strip x (logical units) falls in.
-  /// The caller takes a refused proposal out again, and orders the list after an accepted one.
+  /// Judges the proposal of `n_selezionate` cards that stands as the last meld of the list of
+  /// seat 1 or 3; `calata_ok` is the verdict. A single card goes to the meld whose strip x (logical
+  /// units) falls in. The caller takes a refused proposal out again, and orders the list after an
+  /// accepted one.
   void controllo_calata(int seat, float x);
 
   /// Puts every meld of the list in the order in which it follows the circle of ranks. A tris
@@ -34,6 +35,7 @@ class Melds {
   bool meet(int seat, Meld before, Meld after) const;
   void remove_sentinel(int seat, int sentinel);
   void order_meld(int seat, Meld meld);
+  bool stands_alone_behind(int seat, int target) const;
   void insert_before_last(int seat);
 
   State& s_;

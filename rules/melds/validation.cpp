@@ -1,8 +1,12 @@
 #include "melds/melds.h"
 
+#include <cassert>
+
 namespace tombrello {
 
 void Melds::controllo_calata(int seat, float x) {
+  assert(seat == 1 || seat == 3);
+  assert(meld_up_to(s_.calate[seat], s_.n_calate[seat] - 1).cards() == s_.n_selezionate);
   s_.calata_ok = false;
   if (s_.n_selezionate == 1) {
     if (!find_target(seat, x) || !add_single_card(seat)) return;
