@@ -56,9 +56,4 @@ constexpr int rank_before(int rank) {
   return rank == 1 ? kRanks : rank - 1;
 }
 
-/// Where a card is marked in a presence string, from 1. It is also its first-pack code.
-constexpr int presence_position(int card) {
-  return (Seme(card) - 1) * kRanks + ValCarta(card);
-}
-
 }  // namespace tombrello

@@ -2,12 +2,12 @@
 
 #include <bit>
 #include <cassert>
-#include <cstdint>
-#include <cstring>
 
 #include "cards/card.h"
 
 namespace tombrello {
+
+inline constexpr unsigned kAllRanks = (1U << kRanks) - 1;
 
 /// A set of ranks, such as those that a hand holds of one suit: bit r - 1 stands for rank r. The
 /// searches of the computer seats look for patterns in it.
@@ -17,10 +17,6 @@ class Slice {
   static constexpr Slice of(int rank) {
     assert(1 <= rank && rank <= kRanks);
     return Slice(1U << (rank - 1));
-  }
-  /// `characters` are thirteen, '*' or '_', Ace to King.
-  static Slice read(const char* characters) {
-    return Slice(read_eight(characters) | read_eight(characters + kRanks - 8) << (kRanks - 8));
   }
 
   constexpr unsigned bits() const { return bits_; }
@@ -41,14 +37,6 @@ class Slice {
   }
 
  private:
-  // '*' and '_' differ in their lowest bit; the product gathers those of eight characters.
-  static unsigned read_eight(const char* characters) {
-    std::uint64_t eight = 0;
-    std::memcpy(&eight, characters, sizeof eight);
-    const std::uint64_t held = ~eight & 0x0101010101010101U;
-    return static_cast<unsigned>(held * 0x0102040810204080U >> 56U);
-  }
-
   unsigned bits_;
 };
 

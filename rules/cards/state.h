@@ -30,21 +30,27 @@ constexpr int partner_of(int seat) {
   return seat > 2 ? seat - 2 : seat + 2;
 }
 
-/// Which suit-ranks a hand holds: 52 characters, '*' or '_', at `presence_position` from 1.
-/// It doesn't count: both copies of a card give a single '*'.
+/// Which suit-ranks a hand holds: a string of 52 marks, one for each card of the first pack in
+/// the order of their codes, kept as bits. It doesn't count: both copies of a card give one mark.
 class PresenceString {
  public:
-  PresenceString() { clear(); }
-  void clear() { marks_.fill('_'); }
-  void mark(int card) { marks_[static_cast<std::size_t>(presence_position(card) - 1)] = '*'; }
-  /// By first-pack code.
-  bool holds(int position) const { return marks_[static_cast<std::size_t>(position - 1)] == '*'; }
+  void clear() { marks_ = 0; }
+  void mark(int card) { marks_ |= bit(first_pack_twin(card)); }
+  bool holds(int first_pack_code) const { return (marks_ & bit(first_pack_code)) != 0; }
   /// The ranks held of a suit 1..4.
-  Slice slice(int suit) const { return Slice::read(marks_.data() + (suit - 1) * kRanks); }
+  Slice slice(int suit) const {
+    assert(1 <= suit && suit <= kSuits);
+    return Slice(static_cast<unsigned>(marks_ >> ((suit - 1) * kRanks)) & kAllRanks);
+  }
   bool operator==(const PresenceString&) const = default;
 
  private:
-  std::array<char, kPack> marks_;
+  static constexpr std::uint64_t bit(int code) {
+    assert(1 <= code && code <= kPack);
+    return std::uint64_t{1} << (code - 1);
+  }
+
+  std::uint64_t marks_ = 0;
 };
 
 /// What stands on the table. The match sets it; nobody infers it.

@@ -10,7 +10,7 @@ constexpr int kNone = 0;
 // The widest equal margin of gaps on both sides of a card, 6 down to 1; the lowest rank among
 // equals. A margin must lie within the slice.
 int rank_with_widest_gaps(Slice slice) {
-  const unsigned gaps = ~slice.bits() & ((1U << kRanks) - 1);
+  const unsigned gaps = ~slice.bits() & kAllRanks;
   unsigned lonely = slice.bits();
   int rank = kNone;
   for (unsigned margin = 1; margin <= 6; ++margin) {

@@ -43,7 +43,7 @@ std::string check_list(const State& s, int seat) {
 class Count {
  public:
   void add(int card) {
-    ++copies_[static_cast<std::size_t>(presence_position(card))];
+    ++copies_[static_cast<std::size_t>(first_pack_twin(card))];
     ++total_;
   }
   int total() const { return total_; }

@@ -17,7 +17,6 @@ TEST(Cards, EveryCodeHasItsSuitRankFaceAndBack) {
         SCOPED_TRACE(code);
         EXPECT_EQ(Seme(code), suit);
         EXPECT_EQ(ValCarta(code), rank);
-        EXPECT_EQ(presence_position(code), code - 52 * pack);
         EXPECT_EQ(first_pack_twin(code), code - 52 * pack);
         EXPECT_EQ(back_number(code), pack);
       }
@@ -111,7 +110,7 @@ TEST(DealTest, EachDealerDealsFourPacketsInTurnOrder) {
     for (int slot = 1; slot <= 52; ++slot) {
       const int seat = (dealer + (slot - 1) / 13) % 4 + 1;
       ASSERT_EQ(d.s.mano[seat][(slot - 1) % 13 + 1], d.s.mazzo[slot]);
-      ASSERT_TRUE(d.s.presenze[seat].holds(presence_position(d.s.mazzo[slot])));
+      ASSERT_TRUE(d.s.presenze[seat].holds(first_pack_twin(d.s.mazzo[slot])));
     }
     EXPECT_EQ(d.pile_text(), name_of(d.s.mazzo[53]));
     EXPECT_EQ(d.s.tallone, 54);
