@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cassert>
+#include <cstddef>
+#include <cstdint>
 
 namespace tombrello {
 
@@ -36,16 +39,30 @@ constexpr int card_of(int suit, int rank) {
   return (suit - 1) * kRanks + rank;
 }
 
+/// Suit and rank of every bare card code, worked out by the compiler.
+struct Faces {
+  std::array<std::uint8_t, kCards + 1> suit{};
+  std::array<std::uint8_t, kCards + 1> rank{};
+
+  constexpr Faces() {
+    for (std::size_t card = 1; card <= kCards; ++card) {
+      suit[card] = static_cast<std::uint8_t>((card - 1) / kRanks % kSuits + 1);
+      rank[card] = static_cast<std::uint8_t>((card - 1) % kRanks + 1);
+    }
+  }
+};
+inline constexpr Faces kFaces;
+
 /// Suit 1..4 of a bare card code 0..104; 0 for no card.
 constexpr int Seme(int card) {
-  const int twin = first_pack_twin(card);
-  return (twin + kRanks - 1) / kRanks;
+  assert(is_bare(card));
+  return kFaces.suit[static_cast<std::size_t>(card)];
 }
 
 /// Rank 1 (Ace) to 13 (King) of a bare card code 0..104; 0 for no card.
 constexpr int ValCarta(int card) {
-  const int twin = first_pack_twin(card);
-  return twin == 0 ? 0 : (twin - 1) % kRanks + 1;
+  assert(is_bare(card));
+  return kFaces.rank[static_cast<std::size_t>(card)];
 }
 
 /// The ranks beside a rank on the circle of ranks, where the Ace follows the King.
