@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "match/state_check.h"
 #include "tools/simulation/simulation.h"
 
 namespace tombrello {
@@ -157,6 +158,13 @@ void scarto_carta(benchmark::State& run) {
   from_a_position(run, [](Rules& rules, State& s) { rules.discard.scarto_carta(s.di_turno); });
 }
 BENCHMARK(scarto_carta);
+
+// What checking the state after a turn costs.
+void check_of_state(benchmark::State& run) {
+  from_a_position(run,
+                  [](Rules&, State& s) { benchmark::DoNotOptimize(check_state(s, {}).empty()); });
+}
+BENCHMARK(check_of_state);
 
 }  // namespace
 }  // namespace tombrello

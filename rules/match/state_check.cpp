@@ -11,38 +11,11 @@ std::string at_seat(const char* what, int seat) {
   return std::string(what) + " of seat " + std::to_string(seat);
 }
 
-std::string check_hand(const State& s, int seat) {
-  if (s.n_mano[seat] > kHandCards) return at_seat("more than 13 cards in the hand", seat);
-  const auto& mano = s.mano[seat];
-  PresenceString held;
-  for (int k = 1; k <= s.n_mano[seat]; ++k) {
-    if (mano[k] < 1 || mano[k] > kCards) return at_seat("no card in a used slot", seat);
-    held.mark(mano[k]);
-  }
-  if (seat != 1 && held != s.presenze[seat]) return at_seat("stale presence string", seat);
-  const bool rest_empty = std::all_of(mano.begin() + s.n_mano[seat] + 1, mano.end(),
-                                      [](int card) { return card == 0; });
-  if (seat == 1 && !rest_empty) return "left-overs in the person's hand";
-  return {};
-}
-
-std::string check_list(const State& s, int seat) {
-  const auto& list = s.calate[seat];
-  const int n = s.n_calate[seat];
-  if (n > kListPositions || list[0] != 0) return at_seat("list out of bounds", seat);
-  if (n > 0 && list[n] != kSentinel) return at_seat("list without its last sentinel", seat);
-  for (const Meld meld : melds_of(s, seat)) {
-    if (meld.cards() < kSmallestMeld) return at_seat("meld of fewer than three cards", seat);
-    for (int k = meld.first; k <= meld.last; ++k) {
-      if (list[k] < 1 || list[k] > kCards) return at_seat("no card in a meld", seat);
-    }
-  }
-  return {};
-}
-
+// Cards by their faces; what is no card isn't counted.
 class Count {
  public:
   void add(int card) {
+    if (card < 1 || card > kCards) return;
     ++copies_[static_cast<std::size_t>(first_pack_twin(card))];
     ++total_;
   }
@@ -52,24 +25,44 @@ class Count {
   }
 
  private:
-  std::array<int, kPack + 1> copies_{};
+  std::array<std::uint8_t, kPack + 1> copies_{};
   int total_ = 0;
 };
 
-Count count_without_stock(const State& s) {
-  Count count;
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    for (int k = 1; k <= s.n_mano[seat]; ++k) count.add(s.mano[seat][k]);
-    for (const Meld meld : melds_of(s, seat)) {
-      for (int k = meld.first; k <= meld.last; ++k) count.add(s.calate[seat][k]);
-    }
+std::string check_hand(const State& s, int seat, Count& count) {
+  if (s.n_mano[seat] > kHandCards) return at_seat("more than 13 cards in the hand", seat);
+  const auto& mano = s.mano[seat];
+  PresenceString held;
+  for (int k = 1; k <= s.n_mano[seat]; ++k) {
+    if (mano[k] < 1 || mano[k] > kCards) return at_seat("no card in a used slot", seat);
+    held.mark(mano[k]);
+    count.add(mano[k]);
   }
-  for (int k = 0; k < s.n_pozzo; ++k) count.add(s.pozzo[k]);
-  return count;
+  if (seat != 1 && held != s.presenze[seat]) return at_seat("stale presence string", seat);
+  const bool rest_empty = std::all_of(mano.begin() + s.n_mano[seat] + 1, mano.end(),
+                                      [](int card) { return card == 0; });
+  if (seat == 1 && !rest_empty) return "left-overs in the person's hand";
+  return {};
 }
 
-std::string check_cards(const State& s, StateCheck expected) {
-  Count count = count_without_stock(s);
+std::string check_list(const State& s, int seat, Count& count) {
+  const auto& list = s.calate[seat];
+  const int n = s.n_calate[seat];
+  if (n > kListPositions || list[0] != 0) return at_seat("list out of bounds", seat);
+  if (n > 0 && list[n] != kSentinel) return at_seat("list without its last sentinel", seat);
+  for (const Meld meld : melds_of(s, seat)) {
+    if (meld.cards() < kSmallestMeld) return at_seat("meld of fewer than three cards", seat);
+    for (int k = meld.first; k <= meld.last; ++k) {
+      if (list[k] < 1 || list[k] > kCards) return at_seat("no card in a meld", seat);
+      count.add(list[k]);
+    }
+  }
+  return {};
+}
+
+// `count` holds the cards of hands and melds.
+std::string check_cards(const State& s, StateCheck expected, Count count) {
+  for (int k = 0; k < s.n_pozzo; ++k) count.add(s.pozzo[k]);
   // With the last card taken `tallone` stays at 104, which only a hand's end can leave so.
   const bool stock_empty = expected.hand_over && s.tallone == kCards && count.total() == kCards;
   const int stock = stock_empty ? 0 : kCards + 1 - s.tallone;
@@ -88,12 +81,13 @@ std::string check_cards(const State& s, StateCheck expected) {
 std::string check_state(const State& state, StateCheck expected) {
   if (state.tallone < 54 || state.tallone > kCards) return "stock out of bounds";
   if (state.n_pozzo < 0 || state.n_pozzo > kPack) return "pile out of bounds";
+  Count count;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    std::string fault = check_hand(state, seat);
-    if (fault.empty()) fault = check_list(state, seat);
+    std::string fault = check_hand(state, seat, count);
+    if (fault.empty()) fault = check_list(state, seat, count);
     if (!fault.empty()) return fault;
   }
-  return check_cards(state, expected);
+  return check_cards(state, expected, count);
 }
 
 }  // namespace tombrello
