@@ -24,7 +24,7 @@ void Deck::shuffle_into(int first, int count) {
     const int pick = static_cast<int>(random_.next() * count) + first;
     // Written first and counted afterwards: a branch here would be guessed wrong half the time.
     s_.mazzo[i] = s_.mazzo_tmp[pick];
-    if (s_.mazzo[i] != 0) ++i;
+    i += static_cast<int>(s_.mazzo_tmp[pick] != 0);
     s_.mazzo_tmp[pick] = 0;
   }
 }

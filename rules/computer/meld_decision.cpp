@@ -97,7 +97,7 @@ void MeldDecision::close_meld(int seat) {
   const int n = s_.n_calate[seat];
   for (int k = 1; k <= s_.lunghezza_calata; ++k) list[n + k] = s_.carte_calata[k];
   const auto length = static_cast<std::size_t>(s_.lunghezza_calata);
-  events_.laid(seat, seat, Cards(s_.carte_calata).subspan(1, length));
+  out_.events.laid(seat, seat, Cards(s_.carte_calata).subspan(1, length));
   take_meld_from_hand(seat);
   hands_.riduco_carte(seat);
   s_.n_calate[seat] = static_cast<std::uint8_t>(n + s_.lunghezza_calata + 1);

@@ -2,6 +2,7 @@
 
 #include "cards/deck.h"
 #include "cards/hands.h"
+#include "cards/outside.h"
 #include "cards/state.h"
 
 namespace tombrello {
@@ -10,8 +11,8 @@ namespace tombrello {
 /// `presenze`: suit-ranks are marked, copies aren't counted.
 class MeldDecision {
  public:
-  MeldDecision(State& state, Deck& deck, Hands& hands, Events& events)
-      : s_(state), deck_(deck), hands_(hands), events_(events) {}
+  MeldDecision(State& state, Deck& deck, Hands& hands, Outside outside)
+      : s_(state), deck_(deck), hands_(hands), out_(outside) {}
 
   /// Lays down a new meld if the seat's cards and one of the candidates make one, taking that
   /// candidate; `scelta_pesca` tells which. Starts from `presenze_salvate`. After a hit
@@ -30,7 +31,7 @@ class MeldDecision {
   State& s_;
   Deck& deck_;
   Hands& hands_;
-  Events& events_;
+  Outside out_;
 };
 
 }  // namespace tombrello

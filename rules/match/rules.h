@@ -11,7 +11,7 @@ struct Rules {
         deck(state, random, outside),
         hands(state),
         melds(state, geometry),
-        meld_decision(state, deck, hands, outside.events),
+        meld_decision(state, deck, hands, outside),
         lay_off(state, deck, hands, melds, outside),
         discard(state, random, deck, hands, outside),
         computer(state, deck, hands, meld_decision, lay_off, discard, outside),

@@ -72,6 +72,32 @@ TEST(Match, AReplayedHandIsTheKeptOneAndOnlyOnce) {
   EXPECT_LT(in_place, 10) << "the next hand is shuffled";
 }
 
+// A hand begins on a clean table, whatever the last one left, and each turn shows whose it is.
+TEST(Match, AHandBeginsClean) {
+  Deal d;
+  for (int seat = 1; seat <= 4; ++seat) {
+    d.hand(seat, "Ah 2d 3c");
+    d.table(seat, "3h 4h 5h");
+  }
+  d.out.replay = true;
+  d.rules.match.Gioco_Imposta();
+  State clean;
+  clean.n_mano = {0, 13, 13, 13, 13};
+  EXPECT_EQ(d.s.mano, clean.mano);
+  EXPECT_EQ(d.s.n_mano, clean.n_mano);
+  EXPECT_EQ(d.s.calate, clean.calate);
+  EXPECT_EQ(d.s.n_calate, clean.n_calate);
+  EXPECT_EQ(d.s.pozzo, clean.pozzo);
+  EXPECT_EQ(d.s.presenze, clean.presenze);
+
+  d.pile("Kc");
+  d.hand(2, "Ah 5d 9c");
+  d.s.di_turno = 2;
+  d.log.clear();
+  d.rules.match.play_turn();
+  EXPECT_EQ(d.log.front(), "Posiziona_Players");
+}
+
 // The dealer moves on seat by seat, whoever went out, and the seat after it opens.
 TEST(Match, TheDealerMovesOn) {
   for (int dealer = 1; dealer <= 4; ++dealer) {
@@ -80,6 +106,7 @@ TEST(Match, TheDealerMovesOn) {
       d.s.cartaro = static_cast<std::uint8_t>(dealer);
       d.s.di_turno = static_cast<std::uint8_t>(out);
       d.rules.match.next_hand();
+      EXPECT_EQ(d.log, (Log{"deal_begins", "continue 0", "clear"}));
       EXPECT_EQ(d.s.cartaro, dealer % 4 + 1);
       EXPECT_EQ(d.s.di_turno, (dealer + 1) % 4 + 1);
     }

@@ -229,6 +229,14 @@ TEST(Adding, OneCardMakesAPokerOfATris) {
   }
 }
 
+// A meld's kind is read from its last two cards alone.
+TEST(Adding, ATurnThroughTheKingReadsAsAScala) {
+  Deal d;
+  d.table(1, "Kd Ks As");
+  EXPECT_TRUE(propose(d, 1, "2s", 291));
+  EXPECT_EQ(d.table_text(1), "Kd Ks As 2s");
+}
+
 // A card in the gap between two scalas brings them to meet, on whichever it was laid.
 TEST(Adding, ACardInTheGapJoinsTwoScalas) {
   for (const float x : {295.F, 365.F}) {

@@ -54,16 +54,28 @@ TEST(PersonsTurn, AClickDiscardsTheCardUnderIt) {
   }
 }
 
-// A click on the hand while cards are selected only lowers them.
+// A click on the hand while cards are selected only lowers them; each step is shown.
 TEST(PersonsTurn, SelectedCardsAreLoweredBeforeAnyDiscard) {
   Deal d;
   d.hand(1, "2h Kd 5s");
   d.post(kDrawPile);
-  d.select({1, 3});
-  d.then([&] { EXPECT_EQ(d.s.mano[1][1], card("2h") + 1000); });
+  for (const auto& [slot, selected] : {std::pair{1, 1}, {3, 2}, {2, 3}, {2, 2}}) {
+    d.then([&] { d.log.clear(); });
+    d.select({slot});
+    d.then([&d, count = selected] {
+      EXPECT_EQ(d.s.n_selezionate, count);
+      EXPECT_EQ(only(d.log, {"ridisegno"}), Log{"ridisegno_carte"});
+    });
+  }
+  d.then([&] {
+    EXPECT_EQ(d.s.mano[1][1], card("2h") + 1000);
+    d.log.clear();
+  });
   d.discard(2);
-  d.then([&] { EXPECT_EQ(d.hand_text(1), "2h Kd 5s Kc"); });
-  d.select({2, 2});
+  d.then([&] {
+    EXPECT_EQ(d.hand_text(1), "2h Kd 5s Kc");
+    EXPECT_EQ(only(d.log, {"ridisegno"}), Log{"ridisegno_carte"});
+  });
   d.discard(2);
   ASSERT_TRUE(play(d));
   EXPECT_EQ(d.pile_text(), "Kd");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <deque>
 #include <functional>
@@ -24,9 +26,13 @@ inline std::string number(double x) {
 struct NothingMoreToPost {};
 
 /// The whole outside: logs every call. Each pass of the wait carries out the next action of a
-/// queue; a pause may have an action too.
+/// queue, which must be used up; a pause may have an action too.
 class RecordingOutside : public Table, public Wait, public Sound, public Shell, public Events {
  public:
+  ~RecordingOutside() override {
+    EXPECT_EQ(actions.size(), 0U) << "what was posted was never read";
+  }
+
   void clear() override { add("clear"); }
   void default_pointer() override { add("default_pointer"); }
   void hourglass() override { add("hourglass"); }

@@ -107,8 +107,8 @@ TEST(Scoring, RowsGiveWayAndTotalsStayTrue) {
     ASSERT_EQ(d.s.punti_totali[1], total);
     ASSERT_EQ(d.s.punti_mano[std::min(hand, 10)][1], points);
     ASSERT_EQ(d.s.punti_mano[0][1], -15) << "the row of a replayed hand is never listed";
-    for (int row = 1; row < 10 && hand > 10; ++row) {
-      ASSERT_EQ(d.s.punti_mano[row], before[row + 1]);
+    for (int row = 1; row < std::min(hand, 10); ++row) {
+      ASSERT_EQ(d.s.punti_mano[row], before[hand > 10 ? row + 1 : row]) << "hand " << hand;
     }
   }
 }

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "match/dead_hand.h"
 #include "match/state_check.h"
 #include "tests/rules/deal.h"
-#include "tools/simulation/simulation.h"
+#include "tools/simulation/tally.h"
 
 namespace tombrello::test {
 namespace {
@@ -41,6 +42,53 @@ TEST(Simulation, TheSignatureOfThreeHundredHands) {
   EXPECT_EQ(simulation.signature(), 8666049454377884777U);
   EXPECT_EQ(beside_it.signature(), simulation.signature());
   EXPECT_NE(another.signature(), simulation.signature());
+}
+
+// A hand that was broken off has no row of its own: past the tenth hand, the last row is still
+// that of the hand before.
+TEST(Tally, ScoresAreThoseOfFinishedHands) {
+  State s;
+  s.numero_mano = 12;
+  s.punti_mano[10] = {0, 100, -20};
+  Tally tally;
+  tally.add({.turns = 40, .finished = true}, s);
+  tally.add({.turns = 2000}, s);
+  EXPECT_EQ(tally.score, (std::array<long, 3>{0, 100, -20}));
+  EXPECT_EQ(tally.unfinished, 1);
+  EXPECT_EQ(tally.turns(), 2040);
+  EXPECT_EQ(tally.turns_at(100), 2000);
+}
+
+// Nobody can go out any more once no card in play fits the table and nobody holds enough for a
+// new meld: the person two cards, a computer seat four.
+TEST(DeadHand, IsOneThatNobodyCanEnd) {
+  const struct {
+    const char* hands[4];
+    const char* own;  // seat 2's melds
+    const char* stock;
+    bool dead;
+  } kCases[] = {
+      {{"Ah", "Ah 3s 5d", "Ah 3s 5d", "Ah 3s 5d"}, "7h 7d 7c 7s", "7h Jd", true},
+      {{"Ah", "Ah", "Ah", "Ah"}, "", "7h Jd", true},
+      {{"Ah 2h", "Ah", "Ah", "Ah"}, "", "7h Jd", false},
+      {{"Ah", "Ah 3s 5d 9c", "Ah", "Ah"}, "", "7h Jd", false},
+      {{"Ah", "Ah", "Ah", "6h' 8s"}, "3h 4h 5h", "Jd", false},
+      {{"Ah", "Ah", "Ah", "6s 2s"}, "3h 4h 5h", "Jd", true},
+      {{"Ah", "Ah", "Ah", "Ah"}, "3h 4h 5h", "9d 2h'", false},
+      {{"Ah", "Ah", "Ah", "Ah"}, "8s 9s 10s Js Qs", "9d 3d", false},  // the King on the pile
+      {{"Ah", "Ah", "Ah", "Ah"}, "7h 7d 7c 7s | 9h 9c 9s", "9d' 3d", false},
+      {{"Ah", "Ah", "Ah", "Ah"}, "9h 9c 9s", "9c' 8d", true},
+      {{"2h", "2h", "2h", "2h"}, "Ks As 2s 3s 4s 5s 6s 7s 8s 9s 10s Js Qs Kd", "Kh Kc", true},
+  };
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(testing::Message() << c.own << " stock " << c.stock);
+    Deal d;
+    for (int seat = 1; seat <= 4; ++seat) d.hand(seat, c.hands[seat - 1]);
+    d.table(2, c.own);
+    d.pile("Ks");
+    d.stock(c.stock);
+    EXPECT_EQ(nobody_can_go_out(d.s), c.dead);
+  }
 }
 
 // A storm of codes, sensible or not, at every x, in the wait and in the pauses: the state stays

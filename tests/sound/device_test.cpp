@@ -141,7 +141,7 @@ TEST(Waves, FilesThatAreNoneAreSilent) {
   Heard heard(6);
   heard.disk.put("sounds/broken.wav", "RIFF and nothing more");
   heard.disk.put("sounds/empty.wav", "");
-  std::string slow = sounds::wave_file(sounds::rustle());
+  std::string slow = sounds::wave_file(sounds::rustle(1));
   slow[24] = 100;  // samples a second: six megabytes become gigabytes
   slow[25] = 0;
   slow[42] = 0x60;

@@ -1,5 +1,6 @@
 #include "tools/simulation/simulation.h"
 
+#include "match/dead_hand.h"
 #include "match/state_check.h"
 
 namespace tombrello {
@@ -41,6 +42,7 @@ HandResult Simulation::play_hand(int most_turns, bool checked) {
     if (checked) result.fault = check_state(state_, {.hand_over = result.finished});
     if (!result.fault.empty()) return result;
   }
+  result.dead = !result.finished && nobody_can_go_out(state_);
   if (result.finished) rules_.match.end_hand();
   sign_hand(result);
   in_match_ = !rules_.match.is_over();

@@ -12,12 +12,14 @@
 
 namespace tombrello {
 
+/// What came of one hand.
 struct HandResult {
   int turns = 0;
   int computer_turns = 0;
   int reshuffles = 0;
   bool finished = false;  ///< false when the cap on turns was reached: a hand can go on for ever
-  std::string fault;      ///< what the check of the state found; empty if all was well
+  bool dead = false;      ///< not finished, and nobody could go out any more
+  std::string fault{};    ///< what the check of the state found; empty if all was well
 };
 
 /// Plays hands headless, with a scripted seat 1 that posts codes from inside the wait.
