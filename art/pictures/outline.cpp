@@ -184,6 +184,22 @@ Path loop(const std::vector<Point>& points) {
   return path;
 }
 
+Path petals(Point middle, int count, float inner, float outer, float width) {
+  Path all;
+  const float swell = inner + (outer - inner) * 0.6F;
+  for (int i = 0; i < count; ++i) {
+    Path petal;
+    petal.points.reserve(8);
+    petal.move({0, -inner});
+    petal.cubic({-width, -swell}, {-width, -outer}, {0, -outer});
+    petal.cubic({width, -outer}, {width, -swell}, {0, -inner});
+    petal.close();
+    const float angle = 360.0F * static_cast<float>(i) / static_cast<float>(count);
+    join(all, moved(petal, shift(middle.x, middle.y) * turning(angle)));
+  }
+  return all;
+}
+
 Path moved(const Path& path, const Affine& by) {
   Path result = path;
   for (Point& p : result.points) p = by(p);
