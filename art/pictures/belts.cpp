@@ -71,8 +71,8 @@ void add_diamonds(Belt& belt) {
 void add_clubs(Belt& belt) {
   belt.band(4, {112, 66, 38, 255}, 0.75F);
   belt.band(2.9F, {150, 94, 52, 255}, 0.4F);
-  belt.both(suit_along(Suit::clubs, 4.8F, {10, 18.4F, 26.4F}), {255, 226, 150, 255});
-  belt.both(along(circle({0, 0}, 0.8F), {14.4F, 22.6F}), kInk);
+  belt.both(suit_along(Suit::clubs, 4.8F, {9.2F, 16.6F, 24}), {255, 226, 150, 255});
+  belt.both(along(circle({0, 0}, 0.8F), {12.9F, 20.3F}), kInk);
   belt.both(circle({0, 0}, 5), kGold, 0.6F);
   belt.both(circle({0, 0}, 2.8F), suit_colour(Suit::clubs), 0.5F);
 }

@@ -4,6 +4,12 @@ namespace tombrello::art {
 
 using namespace court;
 
+namespace {
+
+constexpr Point kRepeat{5.7F, 3.5F};  // of a brocade
+
+}  // namespace
+
 namespace motif {
 
 Path pomegranate() {
@@ -44,9 +50,20 @@ Path lozenge() {
 
 }  // namespace motif
 
+void add_shoulders(Figure& f, const Path& motif, Rgba ground, Rgba thread) {
+  f.inked("M20 82 L20 70 C23 63.4 30 60.2 38 58.6 L61 58.6 C68 60.2 73.4 63 76 67 L76 71 Z",
+          ground);
+  // The motifs stay clear of the belt and of what lies over the breast.
+  f.figured("M20 81 L20 70 C23 63.4 30 60.2 38 58.6 L46 58.6 L46 77 Z", motif, kRepeat, thread);
+  f.figured("M54 58.6 L61 58.6 C68 60.2 73.4 63 76 67 L76 70.4 L54 75 Z", motif, kRepeat, thread);
+  f.plain(
+      "M67.4 60.4 C71.6 62 74.6 64.2 75.7 67 L75.7 70.6 L66.8 72.4 C68.8 68.6 69 64.4 67.4 60.4 Z",
+      kFold);
+}
+
 void add_brocade(Figure& f, std::string_view cloth, const Path& motif, Rgba ground, Rgba thread) {
   f.inked(cloth, ground);
-  f.figured(cloth, motif, {6.4F, 3.9F}, thread);
+  f.figured(cloth, motif, kRepeat, thread);
 }
 
 void add_ermine(Figure& f, std::string_view fur) {
@@ -54,9 +71,9 @@ void add_ermine(Figure& f, std::string_view fur) {
   f.figured(fur, motif::tail(), {5.4F, 2.9F}, kInk);
 }
 
-void add_mail(Figure& f, std::string_view mail) {
+void add_mail(Figure& f, std::string_view mail, std::initializer_list<std::string_view> seen) {
   f.inked(mail, kSteel);
-  f.figured(mail, motif::link(), {2.5F, 1.5F}, kIron);
+  for (const std::string_view part : seen) f.figured(part, motif::link(), {2.4F, 1.4F}, kIron);
 }
 
 }  // namespace tombrello::art

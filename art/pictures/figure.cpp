@@ -44,7 +44,7 @@ bool within(const std::vector<Point>& corners, Point p) {
 
 // Whether the motif lies in the cloth with a little room around.
 bool fits(const std::vector<Point>& cloth, const Path& motif, Point place) {
-  constexpr float kRoom = 1.3F;
+  constexpr float kRoom = 1.12F;
   return std::all_of(motif.points.begin(), motif.points.end(), [&](Point p) {
     return within(cloth, {place.x + p.x * kRoom, place.y + p.y * kRoom});
   });
@@ -54,6 +54,12 @@ bool fits(const std::vector<Point>& cloth, const Path& motif, Point place) {
 
 void Figure::inked(const Path& path, Rgba colour, float width) {
   art::inked(drawing_, moved(path, at), colour, width, court::kInk);
+}
+
+void Figure::shaded(std::string_view path, Rgba colour, std::string_view part) {
+  plain(path, colour);
+  plain(part, court::kFold);
+  line(path, 0.75F, court::kInk);
 }
 
 void Figure::plain(const Path& path, Rgba colour) {

@@ -24,8 +24,8 @@ inline constexpr Rgba kIron{126, 140, 164, 255};
 inline constexpr Rgba kWood{146, 94, 52, 255};
 inline constexpr Rgba kLeaf{48, 122, 72, 255};
 inline constexpr Rgba kGround{254, 245, 220, 255};
-/// Laid over a cloth for its folds.
-inline constexpr Rgba kFold{24, 16, 40, 62};
+/// Laid over what turns away from the light.
+inline constexpr Rgba kFold{104, 40, 8, 58};
 }  // namespace court
 
 /// The panel of a court card, and the line where its two figures meet, slanting to the right.
@@ -47,6 +47,8 @@ class Figure {
   /// With a thinner line, for what is small or lies within a contour.
   void fine(const Path& path, Rgba colour) { inked(path, colour, 0.5F); }
   void fine(std::string_view path, Rgba colour) { inked(outline(path), colour, 0.5F); }
+  /// With a part of it turned away from the light.
+  void shaded(std::string_view path, Rgba colour, std::string_view part);
   void plain(const Path& path, Rgba colour);
   void plain(std::string_view path, Rgba colour) { plain(outline(path), colour); }
   void line(const Path& path, float width, Rgba colour);

@@ -4,10 +4,7 @@ namespace tombrello::art {
 
 using namespace court;
 
-Affine hand_place(float x, float y, float turn, float side) {
-  constexpr float kScale = 1.06F;
-  return shift(x, y) * turning(turn) * scaling(side < 0 ? -kScale : kScale, kScale);
-}
+namespace {
 
 void add_fist(Figure& f, const Look& look) {
   f.inked(
@@ -87,6 +84,39 @@ void add_cradle_cuff(Figure& f, Rgba colour) {
       "M-4 7.4 C-1.4 8.2 2.4 8.2 5 7.2 C6 8 6 10.6 5.2 11.6 C2.4 12.6 -1.4 12.6 -4.2 11.8 "
       "C-5 10.6 -4.8 8.4 -4 7.4 Z",
       colour);
+}
+
+void add_palm(Figure& f, Hand hand, const Look& look) {
+  if (hand == Hand::fist) return add_fist(f, look);
+  if (hand == Hand::cradle) return add_cradle(f, look);
+  if (hand == Hand::spread) add_spread_fingers(f, look);
+  add_pinch(f, look);
+}
+
+void add_fingers(Figure& f, Hand hand, const Look& look) {
+  if (hand == Hand::fist) return add_fist_fingers(f, look);
+  if (hand == Hand::cradle) return add_cradle_fingers(f, look);
+  add_pinch_fingers(f, look);
+}
+
+}  // namespace
+
+Affine hand_place(float x, float y, float turn, float side) {
+  constexpr float kScale = 1.06F;
+  return shift(x, y) * turning(turn) * scaling(side < 0 ? -kScale : kScale, kScale);
+}
+
+void add_hand(Figure& f, Hand hand, const Affine& place, const Look& look, Rgba cuff,
+              void (*add_held)(Figure&)) {
+  f.at = place;
+  add_palm(f, hand, look);
+  if (hand != Hand::cradle) add_cuff(f, cuff);
+  f.at = {};
+  add_held(f);
+  f.at = place;
+  add_fingers(f, hand, look);
+  if (hand == Hand::cradle) add_cradle_cuff(f, cuff);
+  f.at = {};
 }
 
 }  // namespace tombrello::art

@@ -20,18 +20,20 @@ struct Eye {
   float height;
 };
 
-void add_eyes(Figure& f, const std::vector<Eye>& eyes, Rgba colour, float lid) {
+// `open` is 1 for eyes wide open.
+void add_eyes(Figure& f, const std::vector<Eye>& eyes, Rgba colour, float lid, float open) {
+  const Affine squint = scaling(1, open);
   Path whites;
   Path irises;
   Path pupils;
   Path glints;
   Path lids;
   for (const Eye& eye : eyes) {
-    join(whites, outline(eye.almond));
-    join(irises, ellipse(eye.iris, eye.width, eye.height));
+    join(whites, moved(outline(eye.almond), squint));
+    join(irises, ellipse(eye.iris, eye.width, eye.height * open));
     join(pupils, ellipse(eye.iris, eye.width * 0.5F, eye.height * 0.5F));
     join(glints, circle({eye.iris.x + 0.4F, eye.iris.y - 0.45F}, 0.32F));
-    join(lids, outline(eye.lids));
+    join(lids, moved(outline(eye.lids), squint));
   }
   f.plain(whites, kWhite);
   f.plain(irises, colour);
@@ -127,8 +129,8 @@ const std::vector<Eye>& aside_eye() {
 void add_turned_features(Figure& f, const Look& look, bool lady) {
   const Rgba cheek = lady ? kRouge : kRuddy;
   f.plain(ellipse({3.4F, 5}, 2.4F, 1.9F), cheek);
-  f.plain(ellipse({-6, 4.8F}, 1.3F, 1.7F), cheek);
-  add_eyes(f, turned_eyes(), look.eyes, lady ? 0.85F : 0.75F);
+  f.plain(ellipse({-5.8F, 4.8F}, 1.2F, 1.6F), cheek);
+  add_eyes(f, turned_eyes(), look.eyes, lady ? 0.85F : 0.75F, lady ? 1.0F : 0.86F);
   f.line("M-0.2 -1.9 C1 -2.9 2.8 -2.8 4 -1.7", 0.35F, kNoseInk);
   const float thick = lady ? 0.65F : 1.3F;
   add_brow(f, {-7.5F, -2.9F}, {-3.4F, -3.6F + look.frown}, thick * 0.9F, look.hair);
@@ -141,9 +143,9 @@ void add_turned_features(Figure& f, const Look& look, bool lady) {
 
 void add_facing_features(Figure& f, const Look& look, bool lady) {
   const Rgba cheek = lady ? kRouge : kRuddy;
-  f.plain(ellipse({4.8F, 5}, 2.1F, 1.8F), cheek);
-  f.plain(ellipse({-4.8F, 5}, 2.1F, 1.8F), cheek);
-  add_eyes(f, facing_eyes(), look.eyes, lady ? 0.85F : 0.75F);
+  f.plain(ellipse({4.4F, 5}, 1.9F, 1.7F), cheek);
+  f.plain(ellipse({-4.4F, 5}, 1.9F, 1.7F), cheek);
+  add_eyes(f, facing_eyes(), look.eyes, lady ? 0.85F : 0.75F, lady ? 1.0F : 0.86F);
   const float thick = lady ? 0.65F : 1.3F;
   add_brow(f, {-6.9F, -2.7F}, {-1.5F, -3.3F + look.frown}, thick, look.hair);
   add_brow(f, {6.9F, -2.7F}, {1.5F, -3.3F + look.frown}, thick, look.hair);
@@ -155,7 +157,7 @@ void add_facing_features(Figure& f, const Look& look, bool lady) {
 
 void add_aside_features(Figure& f, const Look& look, bool lady) {
   f.plain(ellipse({-1, 5}, 2.3F, 2), lady ? kRouge : kRuddy);
-  add_eyes(f, aside_eye(), look.eyes, lady ? 0.85F : 0.8F);
+  add_eyes(f, aside_eye(), look.eyes, lady ? 0.85F : 0.8F, lady ? 1.0F : 0.86F);
   add_brow(f, {0.2F, -2.7F}, {-5.9F, -3.2F + look.frown * 0.7F}, lady ? 0.7F : 1.4F, look.hair);
   f.line("M-7 4.5 C-6.4 4.8 -5.9 4.2 -6.3 3.3", 0.55F, kNoseInk);
 }

@@ -1,5 +1,7 @@
 #include "pictures/cloth.h"
 #include "pictures/hands.h"
+#include "pictures/headgear.h"
+#include "pictures/held.h"
 
 namespace tombrello::art {
 namespace {
@@ -26,48 +28,9 @@ constexpr Look kRuddy{
 constexpr Look kSullen{
     {238, 208, 184, 255}, {212, 174, 148, 255}, {40, 36, 50, 255}, {72, 78, 104, 255}, 1.2F, -0.4F};
 
-constexpr std::string_view kShoulders =
-    "M20 82 L20 71 C23 64 30 60.4 38 58.8 L60 58.8 C67 60.4 73 63.4 76 67.4 L76 71 Z";
-
-// A feather of a cap: its quill starts at the origin and sweeps to the upper right.
-void add_feather(Figure& f, const Affine& place, Rgba colour) {
-  const Affine before = f.at;
-  f.at = before * place;
-  f.inked(
-      "M-1 1 C-0.6 -6 4 -11.6 11 -12.6 C15.4 -13 18.4 -10.4 17.4 -7.6 C14.6 -8.4 15.4 -6 "
-      "13.4 -5.6 C11.4 -5.2 10.6 -3.4 8 -3 C5 -2.4 2 -1.4 -1 1 Z",
-      colour);
-  f.line(
-      "M-1 1 C3 -5 8 -8.8 14.4 -9.6 M3.4 -3.8 L3 -7 M6.8 -6.6 L6.8 -10 M5.4 -5.4 L8.6 -4.2 "
-      "M9.6 -8 L12 -6.4",
-      0.5F, kInk);
-  f.at = before;
-}
-
-void add_letter(Figure& f) {
-  const Affine before = f.at;
-  f.at = before * shift(65.6F, 46.6F) * turning(8);
-  f.inked("M-7.6 -5.8 L7.6 -5.8 L7.6 5.8 L-7.6 5.8 Z", kWhite);
-  f.line("M-7.6 5.8 L-2.2 -0.2 M7.6 5.8 L2.2 -0.2", 0.5F, kInk);
-  f.fine("M-7.6 -5.8 L7.6 -5.8 L1.2 1 Q0 2 -1.2 1 Z", kCream);
-  f.fine(suit_outline(Suit::hearts, {0, 0.9F}, 5.6F), kCrimson);
-  f.at = before;
-}
-
-void add_page_cap(Figure& f) {
-  f.inked(
-      "M-10.4 -8.6 C-15 -13 -13 -19.4 -3.4 -20.8 C6 -22 14.4 -19 13 -13 C12.4 -10.4 11 -9 10 -8 "
-      "Q0 -11.6 -10.4 -8.6 Z",
-      kCrimson);
-  f.inked("M-10.4 -7.6 Q0 -11 10 -7 L9.8 -10.4 Q0 -14 -10.4 -10.6 Z", kNavy);
-  add_feather(f, shift(-6.4F, -12) * scaling(0.9F, 0.86F) * turning(-14), kCream);
-  f.inked(circle({-6.8F, -11.4F}, 1.7F), kGold);
-}
-
 // Hearts: the fair messenger, with a letter.
 void add_jack_of_hearts(Figure& f) {
-  add_brocade(f, kShoulders, moved(suit_outline(Suit::hearts, {0, 0}, 4), scaling(0.9F, 1)), kNavy,
-              kGold);
+  add_shoulders(f, moved(suit_outline(Suit::hearts, {0, 0}, 4), scaling(0.9F, 1)), kNavy, kGold);
   f.inked("M38 59.4 L57 59.4 C58.6 65 58.6 70 57.4 75 L38 79 C36.6 72 36.6 66 38 59.4 Z", kCrimson);
   f.line("M42 61 L41.4 78 M54 61 L54.4 75.4", 1.1F, kGold);
   f.line("M47.4 60 L47.4 76.6", 0.5F, kInk);
@@ -99,35 +62,7 @@ void add_jack_of_hearts(Figure& f) {
   f.inked("M53.6 76 C53 71.6 54.6 67.4 57 64.6 L67 66.4 C68.6 68.8 68.6 71.4 67.6 73.4 Z",
           kCrimson);
   f.line("M57 75 C57 71.6 58.4 68.8 60 66.6 M62.6 74 C63 71.6 63.4 69.8 63.6 67.6", 0.9F, kGold);
-  f.at = hand_place(66, 55, 0, -1);
-  add_pinch(f, kFair);
-  add_cuff(f, kCream);
-  f.at = {};
-  add_letter(f);
-  f.at = hand_place(66, 55, 0, -1);
-  add_pinch_fingers(f, kFair);
-  f.at = {};
-}
-
-void add_pennon(Figure& f) {
-  f.inked("M62.8 18 L65.2 18 L65.6 76 L62.4 76 Z", kWood);
-  f.inked("M64 11.6 C66 14 66 16.4 64 19.4 C62 16.4 62 14 64 11.6 Z", kSteel);
-  f.inked(
-      "M65.2 19 C68.4 17.6 70.8 20.6 74.2 19.2 L71.4 25 L74.2 31.4 C70.8 32.6 68.4 29.6 65.2 "
-      "31 Z",
-      kTeal);
-  f.fine(moved(motif::lozenge(), shift(68.3F, 24.9F) * scaling(1.25F, 1.4F)), kGold);
-}
-
-void add_brimmed_hat(Figure& f) {
-  f.inked("M-8 -9 C-9.4 -18 -4.6 -21.6 1 -21.4 C7.4 -21 9.6 -16 8.8 -9 Z", kVermilion);
-  f.inked("M-8.4 -10 Q0 -13.4 8.8 -10 L8.9 -13.4 Q0 -16.6 -8.6 -13.4 Z", kGold);
-  f.inked(
-      "M-15 -8.4 C-13.6 -13 -6.4 -12.4 0 -11 C6.4 -12.4 11.8 -13.6 14 -9.8 C11.4 -5.4 5.4 -6.4 0 "
-      "-6.4 C-6 -6 -12 -4.6 -15 -8.4 Z",
-      kTeal);
-  add_feather(f, shift(6, -12) * scaling(-0.98F, 0.9F) * turning(2), kGold);
-  f.fine(moved(motif::lozenge(), shift(5.4F, -11.4F)), kCream);
+  add_hand(f, Hand::pinch, hand_place(66, 55, 0, -1), kFair, kCream, add_letter);
 }
 
 void add_ruff(Figure& f, float x, float y) {
@@ -149,7 +84,7 @@ void add_ruff(Figure& f, float x, float y) {
 
 // Diamonds: the dashing herald, with his pennon.
 void add_jack_of_diamonds(Figure& f) {
-  add_brocade(f, kShoulders, motif::lozenge(), kVermilion, kGold);
+  add_shoulders(f, motif::lozenge(), kVermilion, kGold);
   f.inked("M33 60 L45 59 L45 77.4 L31.4 79.8 C30 73 30.4 66 33 60 Z", kTeal);
   f.inked("M45 59 L57 60 C58.6 65 58.6 70 57.6 74.8 L45 77.4 Z", kCream);
   f.fine(moved(motif::lozenge(), shift(38.6F, 70) * scaling(2, 2)), kGold);
@@ -177,14 +112,7 @@ void add_jack_of_diamonds(Figure& f) {
   f.at = {};
   add_ruff(f, 45, 61);
   f.inked("M52.4 76.4 C52.4 72 54 69 56 66.8 L65 69.6 C66.2 71.4 66 72.8 65.4 73.8 Z", kTeal);
-  f.at = hand_place(64, 57, 0, -1);
-  add_fist(f, kTanned);
-  add_cuff(f, kCream);
-  f.at = {};
-  add_pennon(f);
-  f.at = hand_place(64, 57, 0, -1);
-  add_fist_fingers(f, kTanned);
-  f.at = {};
+  add_hand(f, Hand::fist, hand_place(64, 57, 0, -1), kTanned, kCream, add_pennon);
 }
 
 void add_quiver(Figure& f) {
@@ -200,32 +128,10 @@ void add_quiver(Figure& f) {
   f.at = {};
 }
 
-void add_bow(Figure& f) {
-  f.inked(
-      "M61 12.6 C62.8 12.2 64 13.4 64.8 15.4 C66.6 19.6 72.6 27 72.9 39.5 C72.6 52 66.6 59.4 "
-      "64.8 63.6 C64 65.6 62.8 66.8 61 66.4 C62.2 65.8 62.6 65 63 63.2 "
-      "C64.8 57.6 70 51 70.3 39.5 C70 28 64.8 21.4 63 15.8 C62.6 14 62.2 13.2 61 12.6 Z",
-      kWood);
-  f.inked("M70.2 34.6 L73 34.6 L73 44.4 L70.2 44.4 Z", kCrimson);
-}
-
-void add_hunter_cap(Figure& f) {
-  f.inked(
-      "M-10.4 -7.4 C-11.4 -15 -7 -19.6 -1.6 -21.4 C2 -22.6 4.6 -20.6 5 -18.4 "
-      "C8.6 -16.6 10.8 -12.6 10.4 -7.4 Z",
-      kTeal);
-  f.inked(
-      "M-12 -6.4 C-8.6 -11.8 8.6 -11.8 12 -6.4 C13 -8 12.6 -10.6 11.2 -11.6 "
-      "C6 -15 -6 -15 -11.2 -11.6 C-12.6 -10.6 -13 -8 -12 -6.4 Z",
-      {0, 78, 86, 255});
-  add_feather(f, shift(7, -12.4F) * scaling(0.56F, 0.72F) * turning(-14), kCrimson);
-  f.inked(circle({7, -11.8F}, 1.6F), kGold);
-}
-
 // Clubs: the archer of the woods, freckled, looking straight ahead, with his bow.
 void add_jack_of_clubs(Figure& f) {
   add_quiver(f);
-  add_brocade(f, kShoulders, motif::sprig(), kTeal, {92, 176, 140, 255});
+  add_shoulders(f, motif::sprig(), kTeal, {92, 176, 140, 255});
   f.inked("M34 59 L39 59 L58.6 73 L57.6 75 L54 75.6 Z", kWood);
   f.studs(0.8F, {{41, 64}, {45, 66.8F}, {49, 69.6F}}, kGold);
   const Affine head = head_place(44, 41.5F, 0, 1);
@@ -258,41 +164,12 @@ void add_jack_of_clubs(Figure& f) {
   f.line("M62.2 14.6 L62.2 64.6", 0.55F, kInk);
   f.inked("M54.6 75.8 C54.8 66 56 58 59.4 50.6 L66.4 53.6 C66.4 62 67.4 68 67 73.6 Z", kCream);
   f.line("M58.4 74 C58.6 67 59.4 61 61 55.4 M62.8 73.6 C63 67.6 63.4 62 64 57.4", 0.5F, kInk);
-  f.at = hand_place(71.2F, 40.4F, 4, -1);
-  add_fist(f, kRuddy);
-  add_cuff(f, kGold);
-  f.at = {};
-  add_bow(f);
-  f.at = hand_place(71.2F, 40.4F, 4, -1);
-  add_fist_fingers(f, kRuddy);
-  f.at = {};
-}
-
-void add_halberd(Figure& f) {
-  f.inked("M25.8 27 L28.2 27 L28.6 81 L25.4 81 Z", kWood);
-  f.inked("M27 11.8 L29 19 L28.2 28 L25.8 28 L25 19 Z", kSteel);
-  f.line("M27 14 L27 26", 0.5F, kWhite);
-  f.inked(
-      "M28.2 24 C30.6 24 32.6 22.6 34 20.4 C35.4 25 35.4 31 33.4 36 C32 33.6 30.4 32.4 28.2 "
-      "32.2 Z",
-      kSteel);
-  f.inked("M25.8 25 L21.6 28.4 L25.8 31.4 Z", kSteel);
-  f.fine("M25.2 34 L28.8 34 L28.9 37 L25.1 37 Z", kGold);
-}
-
-void add_guard_cap(Figure& f) {
-  f.inked(
-      "M-7.4 -7.6 C-12 -11.6 -10.6 -18 -1.6 -19.6 C8 -21 16.6 -17.6 15 -11.4 C14.4 -8.8 12.4 -7 "
-      "10.4 -6 Q1.6 -9.4 -7.4 -7.6 Z",
-      kNavy);
-  f.inked("M-7.4 -6.8 Q1.6 -9 10.4 -5 L10.8 -8.6 Q1.6 -12.4 -7.8 -9.8 Z", kGold);
-  add_feather(f, shift(0.6F, -11.4F) * scaling(0.86F, 0.84F) * turning(10), kCrimson);
-  f.inked(circle({0.4F, -10.8F}, 1.7F), kCream);
+  add_hand(f, Hand::fist, hand_place(71.2F, 40.4F, 4, -1), kRuddy, kGold, add_bow);
 }
 
 // Spades: the sullen guardsman in profile, with a halberd.
 void add_jack_of_spades(Figure& f) {
-  add_brocade(f, kShoulders, motif::star(), kNavy, kSteel);
+  add_shoulders(f, motif::star(), kNavy, kSteel);
   f.inked("M40 59.4 L59 59.4 C60.6 65 60.6 70 59.6 74.6 L39.6 78.4 C38 72 38.4 66 40 59.4 Z",
           kCrimson);
   f.line("M41.4 63 L50 68 L59.4 62 M40 69.4 L50 74.4 L60 68.6", 1.5F, kGold);
@@ -314,18 +191,12 @@ void add_jack_of_spades(Figure& f) {
   f.line("M5 -5 C6.4 -1 5.4 3 7.4 8 M9 -5 C10.4 -1 9.4 4 11 9.4", 0.5F, kSheen);
   add_guard_cap(f);
   f.at = {};
-  add_mail(f,
-           "M38.6 62.4 C39 59 41 57.4 43 57.2 L56 58 C58.6 58.6 60 60.6 60.6 62.6 "
-           "C58 66 53.6 67.4 49.6 67.4 C45.4 67.4 41.2 65.6 38.6 62.4 Z");
+  constexpr std::string_view kGorget =
+      "M38.6 62.4 C39 59 41 57.4 43 57.2 L56 58 C58.6 58.6 60 60.6 60.6 62.6 "
+      "C58 66 53.6 67.4 49.6 67.4 C45.4 67.4 41.2 65.6 38.6 62.4 Z";
+  add_mail(f, kGorget, {kGorget});
   f.inked("M31.4 79.8 C31.2 76.8 32 74 33.6 71.4 L43 73 C44 74.6 44.2 76.2 43.4 77.6 Z", kCrimson);
-  f.at = hand_place(27, 61.5F, 0, 1);
-  add_fist(f, kSullen);
-  add_cuff(f, kGold);
-  f.at = {};
-  add_halberd(f);
-  f.at = hand_place(27, 61.5F, 0, 1);
-  add_fist_fingers(f, kSullen);
-  f.at = {};
+  add_hand(f, Hand::fist, hand_place(27, 61.5F, 0, 1), kSullen, kGold, add_halberd);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "pictures/cloth.h"
 #include "pictures/hands.h"
+#include "pictures/headgear.h"
+#include "pictures/held.h"
 
 namespace tombrello::art {
 namespace {
@@ -25,40 +27,8 @@ constexpr Look kBroad{
 constexpr Look kWarrior{
     {240, 204, 174, 255}, {214, 170, 138, 255}, {36, 32, 46, 255}, {70, 88, 112, 255}, 1.5F, 0};
 
-void add_robe(Figure& f, const Path& motif, Rgba cloth) {
-  add_brocade(f, "M20 82 L20 69 C23 62.6 30 59.6 38 58 L60 58 C67 59.6 73 62.4 76 66.4 L76 71 Z",
-              motif, cloth, kGold);
-}
-
-void add_sceptre(Figure& f) {
-  f.inked("M26 24 L28 24 L28.4 80 L25.6 80 Z", kGold);
-  f.inked(ellipse({27, 26.4F}, 2.9F, 1.6F), kGold);
-  f.inked(ellipse({27, 47}, 2.2F, 1.3F), kGold);
-  f.inked(suit_outline(Suit::hearts, {27, 18.6F}, 11.6F), kCrimson);
-  f.plain("M23.6 17 C23.6 15 24.8 14.2 26 14.6 C25 15.2 24.4 16 23.6 17 Z", kCream);
-}
-
-void add_lily_crown(Figure& f) {
-  f.inked(
-      "M-9.8 -11 L-12 -19.4 L-7 -15.4 L-5 -20.4 C-3.6 -19 -3.2 -17.6 -2.4 -16 "
-      "C-3.4 -19.6 -1.6 -21.6 0 -24 C1.6 -21.6 3.4 -19.6 2.4 -16 C3.2 -17.6 3.6 -19 5 -20.4 "
-      "L7 -15.4 L12 -19.4 L9.8 -11 Q0 -8.4 -9.8 -11 Z",
-      kGold);
-  f.plain(
-      "M2.4 -16 C3.4 -19.6 1.6 -21.6 0.4 -23 L1 -9.8 Q5.6 -9.6 9.4 -11 L11.2 -18 L7 -14.4 "
-      "L5 -19 C4 -18 3.4 -15.6 2.4 -16 Z",
-      {226, 164, 48, 255});
-  f.inked("M-9.4 -7.2 Q0 -4.4 9.4 -7.2 L9.9 -11.2 Q0 -8.4 -9.9 -11.2 Z", kCrimson);
-  f.studs(1.05F, {{-6.4F, -8.4F}, {0, -7.2F}, {6.4F, -8.4F}}, kCream);
-  f.studs(1.2F, {{-12, -20}, {12, -20}}, kCream);
-}
-
-// Hearts: the old king, gentle, in ermine, with the sceptre.
-void add_king_of_hearts(Figure& f) {
-  add_robe(f, motif::pomegranate(), kCrimson);
-  add_ermine(f,
-             "M31 62 C35 57.6 41 56 46 56 L54 56 C59 56 65 57.6 69 61 C68 66.6 60 71 50 71 "
-             "C40 71 32 67.4 31 62 Z");
+// White and curled all around.
+void add_old_head(Figure& f) {
   f.at = head_place(50, 41, 0, 1);
   f.inked(
       "M-8 -9 C-12.4 -6 -12.6 -1 -11 2 C-13.4 4 -13.4 8 -11.4 9.6 C-12 12.4 -9 14 -7 13 L8 13 "
@@ -85,57 +55,21 @@ void add_king_of_hearts(Figure& f) {
       kWhiteHair);
   add_lily_crown(f);
   f.at = {};
+}
+
+// Hearts: the old king, gentle, in ermine, with the sceptre.
+void add_king_of_hearts(Figure& f) {
+  add_shoulders(f, motif::pomegranate(), kCrimson, kGold);
+  add_ermine(f,
+             "M31 62 C35 57.6 41 56 46 56 L54 56 C59 56 65 57.6 69 61 C68 66.6 60 71 50 71 "
+             "C40 71 32 67.4 31 62 Z");
+  add_old_head(f);
   f.inked("M32 80 C32.6 76.4 33.6 74 35 71.4 L43 73.6 C43.4 75.4 43.2 76.6 42.6 77.8 Z", kNavy);
-  f.at = hand_place(27, 61.5F, 0, 1);
-  add_fist(f, kOld);
-  add_cuff(f, kCream);
-  f.at = {};
-  add_sceptre(f);
-  f.at = hand_place(27, 61.5F, 0, 1);
-  add_fist_fingers(f, kOld);
-  f.at = {};
+  add_hand(f, Hand::fist, hand_place(27, 61.5F, 0, 1), kOld, kCream, add_sceptre);
 }
 
-void add_axe(Figure& f) {
-  f.inked("M64 13 L66.4 13 L66.8 74 L63.6 74 Z", kWood);
-  f.inked(
-      "M66.4 17.4 C69.6 17.4 71.6 15.6 72.8 13 C75 19 75 27 72.8 33.4 C71.4 30.4 69.4 29 66.4 29 "
-      "Z",
-      kSteel);
-  f.line("M72.2 16.4 C73.4 21 73.4 26 72.2 30.2", 0.7F, kWhite);
-  f.inked("M64 19.6 L60.4 23.2 L64 26.8 Z", kSteel);
-  f.fine("M63.6 30.6 L66.8 30.6 L66.8 33 L63.6 33 Z", kGold);
-}
-
-void add_imperial_crown(Figure& f) {
-  f.inked("M-8.6 -10 C-12.4 -19.6 -6 -22 0 -19.4 C6 -22 12.4 -19.6 8.6 -10 Z", kTeal);
-  f.inked(
-      "M-9 -10 C-12.6 -17 -8 -22 -1 -20.4 L-1 -18.4 C-6 -20 -9 -17 -6.8 -9.6 Z "
-      "M9 -10 C12.6 -17 8 -22 1 -20.4 L1 -18.4 C6 -20 9 -17 6.8 -9.6 Z "
-      "M-1.3 -9 L-1.3 -20.4 L1.3 -20.4 L1.3 -9 Z",
-      kGold);
-  f.inked("M-9.2 -7 Q0 -4.4 9.2 -7 L9.6 -11 Q0 -8.4 -9.6 -11 Z", kGold);
-  f.studs(1.1F, {{-6, -8.2F}, {6, -8.2F}}, kTeal);
-  f.fine(moved(motif::lozenge(), shift(0, -7.4F) * scaling(0.9F, 0.75F)), kVermilion);
-  f.inked(moved(motif::lozenge(), shift(0, -22.2F) * scaling(1.1F, 0.95F)), kVermilion);
-}
-
-// Diamonds: the merchant king in profile, auburn and shrewd, with the axe.
-void add_king_of_diamonds(Figure& f) {
-  add_robe(f, motif::lozenge(), kVermilion);
-  f.inked("M42 57 L56 57 L58.6 74.6 L39.6 78.4 Z", kCream);
-  f.line("M41 62.6 L57 60.8 M40.6 67.6 L57.6 65.2 M40 72.8 L58.2 70", 1.3F, kTeal);
-  f.inked(
-      "M43 56.4 C36 58 31 60 28.6 63 C31 69 34.6 75 37.4 79.2 L43.6 77.8 C40.4 71 40.4 63 "
-      "43 56.4 Z",
-      kTeal);
-  f.inked(
-      "M54 56 C62 57.4 66 59.4 68 62 C66.4 66.6 64 71 61.4 74.4 L55.8 75.6 C57.4 69 57 62 "
-      "54 56 Z",
-      kTeal);
-  f.line("M33.4 62.6 C35.4 68 38 73.6 40.2 78.2 M64.4 61.2 C63.4 66 61 71 58.6 74.6", 0.9F, kGold);
-  f.line("M39 60.4 C39.6 68 44 73.4 48.6 74 C53.6 73 57.6 67 58.4 59.6", 1.6F, kOldGold);
-  f.line("M39 60.4 C39.6 68 44 73.4 48.6 74 C53.6 73 57.6 67 58.4 59.6", 0.7F, kGold);
+// Seen from the side, with a pointed beard.
+void add_merchant_head(Figure& f) {
   f.at = head_place(45.5F, 41, 0, 1);
   add_man_aside(f, kShrewd);
   f.inked("M-4 15.4 C0 18.6 6 18 10.6 14.6 L12.6 19.6 C7 23.6 0 24 -5.4 20.6 Z", kTeal);
@@ -165,48 +99,32 @@ void add_king_of_diamonds(Figure& f) {
   f.at = f.at * shift(1.6F, 0);
   add_imperial_crown(f);
   f.at = {};
+}
+
+// Diamonds: the merchant king in profile, auburn and shrewd, with the axe.
+void add_king_of_diamonds(Figure& f) {
+  add_shoulders(f, motif::lozenge(), kVermilion, kGold);
+  f.inked("M42 57 L56 57 L58.6 74.6 L39.6 78.4 Z", kCream);
+  f.line("M41 62.6 L57 60.8 M40.6 67.6 L57.6 65.2 M40 72.8 L58.2 70", 1.3F, kTeal);
+  f.inked(
+      "M43 56.4 C36 58 31 60 28.6 63 C31 69 34.6 75 37.4 79.2 L43.6 77.8 C40.4 71 40.4 63 "
+      "43 56.4 Z",
+      kTeal);
+  f.inked(
+      "M54 56 C62 57.4 66 59.4 68 62 C66.4 66.6 64 71 61.4 74.4 L55.8 75.6 C57.4 69 57 62 "
+      "54 56 Z",
+      kTeal);
+  f.line("M33.4 62.6 C35.4 68 38 73.6 40.2 78.2 M64.4 61.2 C63.4 66 61 71 58.6 74.6", 0.9F, kGold);
+  f.line("M39 60.4 C39.6 68 44 73.4 48.6 74 C53.6 73 57.6 67 58.4 59.6", 1.6F, kOldGold);
+  f.line("M39 60.4 C39.6 68 44 73.4 48.6 74 C53.6 73 57.6 67 58.4 59.6", 0.7F, kGold);
+  add_merchant_head(f);
   f.inked("M54 76 C54.6 72.6 56 69.6 57.6 66.6 L66 70.4 C66.4 72 66 73.2 65.2 74.2 Z", kVermilion);
-  f.at = hand_place(65.2F, 56.5F, 0, -1);
-  add_fist(f, kShrewd);
-  add_cuff(f, kGold);
-  f.at = {};
-  add_axe(f);
-  f.at = hand_place(65.2F, 56.5F, 0, -1);
-  add_fist_fingers(f, kShrewd);
-  f.at = {};
-}
-
-void add_trefoil_crown(Figure& f) {
-  f.inked(
-      "M-9.8 -11 L-11 -16.4 L-9.4 -16.4 L-5 -13.6 L-0.8 -18 L0.8 -18 L5 -13.6 L9.4 -16.4 "
-      "L11 -16.4 L9.8 -11 Q0 -8.4 -9.8 -11 Z",
-      kGold);
-  Path trefoils;
-  for (const Point& at : {Point{-10.6F, -18.6F}, Point{0, -20.6F}, Point{10.6F, -18.6F}}) {
-    join(trefoils, suit_outline(Suit::clubs, at, 7.2F));
-  }
-  f.fine(trefoils, kGold);
-  f.inked("M-9.4 -7 Q0 -4.2 9.4 -7 L10 -11 Q0 -8.4 -10 -11 Z", kTeal);
-  f.studs(1, {{-7, -8.6F}, {-3.6F, -7.8F}, {0, -7.5F}, {3.6F, -7.8F}, {7, -8.6F}}, kCream);
-  f.studs(0.9F, {{-10.6F, -18.6F}, {0, -20.6F}, {10.6F, -18.6F}}, kCrimson);
-}
-
-void add_orb(Figure& f) {
-  f.inked(circle({30, 54.4F}, 7), kCrimson);
-  f.plain(
-      "M33.6 49 C36 51.6 36.4 56 34 59.4 C36 58 36.8 55.6 36.5 53.6 C36.3 51.8 35.4 50 33.6 49 Z",
-      kFold);
-  f.inked("M23.1 53 Q30 56.6 36.9 53 L36.9 55.6 Q30 59.2 23.1 55.6 Z", kGold);
-  f.inked("M28.6 47.4 L31.4 47.4 L31.2 55.2 L28.8 55.2 Z", kGold);
-  f.inked(
-      "M28.9 47.6 L28.9 43.6 L26 43.6 L26 41 L28.9 41 L28.9 37.8 L31.1 37.8 L31.1 41 L34 41 "
-      "L34 43.6 L31.1 43.6 L31.1 47.6 Z",
-      kGold);
+  add_hand(f, Hand::fist, hand_place(65.2F, 56.5F, 0, -1), kShrewd, kGold, add_axe);
 }
 
 // Clubs: the builder king, brown and broad, looking straight ahead, with the orb.
 void add_king_of_clubs(Figure& f) {
-  add_robe(f, motif::sprig(), kTeal);
+  add_shoulders(f, motif::sprig(), kTeal, kGold);
   add_ermine(f,
              "M29.6 64 C34 58.4 41 57 47 57 L53 57 C59 57 67 58 72.6 63 C71.4 68 62 71.4 51 71.6 "
              "C40 71.6 31.4 69 29.6 64 Z");
@@ -237,23 +155,7 @@ void add_king_of_clubs(Figure& f) {
   f.line("M37 59.6 C39 65.6 45 68.6 51 68.6 C57 68.6 63.4 65.4 66 59.6", 1.1F, kGold);
   f.inked(circle({51, 68.6F}, 2.6F), kGold);
   f.inked("M24 81.4 C24 77 24.4 73.6 25.2 71.4 L35.6 71.4 C36.6 74 36.8 77 36.4 79 Z", kTeal);
-  f.at = hand_place(30, 61, 0, 1);
-  add_cradle(f, kBroad);
-  f.at = {};
-  add_orb(f);
-  f.at = hand_place(30, 61, 0, 1);
-  add_cradle_fingers(f, kBroad);
-  add_cradle_cuff(f, kGold);
-  f.at = {};
-}
-
-void add_sword(Figure& f) {
-  f.inked("M66.2 51 L66.2 19 L68.5 12.6 L70.8 19 L70.8 51 Z", kSteel);
-  f.plain("M68.5 13.4 L70.4 19 L70.4 50.6 L68.5 50.6 Z", kIron);
-  f.line("M68.5 18 L68.5 46", 0.5F, kWhite);
-  f.inked("M61.6 49.8 C64 51.4 73 51.4 75 49.8 L75 53 C73 54 64 54 61.6 53 Z", kGold);
-  f.inked("M67.2 53.4 L69.8 53.4 L69.8 66 L67.2 66 Z", {120, 74, 42, 255});
-  f.inked(circle({68.5F, 67}, 2.3F), kGold);
+  add_hand(f, Hand::cradle, hand_place(30, 61, 0, 1), kBroad, kGold, add_orb);
 }
 
 void add_pauldrons(Figure& f) {
@@ -268,15 +170,18 @@ void add_pauldrons(Figure& f) {
 
 // Spades: the warrior king, raven-black, in mail and steel, with the sword.
 void add_king_of_spades(Figure& f) {
-  add_brocade(f, "M20 82 L20 70 C23 63 30 60 38 58 L60 58 C67 60 73 62.4 76 66.4 L76 71 Z",
-              motif::star(), kNavy, kGold);
+  add_shoulders(f, motif::star(), kNavy, kGold);
   f.inked("M39 58 L59 58 L60.6 74 L37 78.6 Z", kCrimson);
   f.inked("M45.6 58 L51.6 58 L52 75.6 L45 77.2 Z", kCream);
   add_pauldrons(f);
   f.at = head_place(48, 41, 0, -1);
   add_mail(f,
            "M-8 -10 C-11.4 -5 -11.4 3 -11 8 C-11.4 13 -14 16 -14.4 20 C-9 25.4 9 25.4 14.4 20 "
-           "C14 16 11.4 13 11 8 C11.4 3 11.4 -5 8 -10 Z");
+           "C14 16 11.4 13 11 8 C11.4 3 11.4 -5 8 -10 Z",
+           {"M-8.2 -8 C-11.2 -4 -11 3 -10.8 8 C-11.2 13 -13.6 16 -14.2 20 C-11 22.8 -7 23.8 -3 24 "
+            "L-4 19 C-6 15 -5.4 4 -5 -8 Z",
+            "M8.2 -8 C11.2 -4 11 3 10.8 8 C11.2 13 13.6 16 14.2 20 C11 22.8 7 23.8 1 24 "
+            "L2.6 20 C6 16 5.4 4 5 -8 Z"});
   add_man_turned(f, kWarrior);
   f.inked(
       "M-7.9 3 C-7 5.6 -6 6.6 -4.2 6.2 L2.6 6.2 C5.6 6 7.4 4 8.3 1 C9.4 7 8.4 12 7 15 "
@@ -292,24 +197,11 @@ void add_king_of_spades(Figure& f) {
       "M-2.2 6 C-4 5.2 -7 6.6 -8.8 10.8 C-6.2 10.4 -3.6 9.8 -2.1 8.2 C0 9.8 3.4 10.6 6.2 10.6 "
       "C4.4 6.6 0.8 5 -2.2 6 Z",
       kRaven);
-  f.inked("M-9 -9 C-10 -17 -4 -22 0 -24.4 C4 -22 10 -17 9 -9 Z", kSteel);
-  f.plain("M0.6 -23.6 C4 -21 9.4 -17 8.8 -10 L3.6 -10 C5 -15 3.4 -20 0.6 -23.6 Z", kIron);
-  f.inked(
-      "M-9.8 -10.6 L-12 -17.6 L-7.6 -14.6 L-5.6 -19 L-2.6 -14.2 L0 -19.4 L2.6 -14.2 "
-      "L5.6 -19 L7.6 -14.6 L12 -17.6 L9.8 -10.6 Q0 -8 -9.8 -10.6 Z",
-      kGold);
-  f.inked("M-9.4 -6.8 Q0 -4 9.4 -6.8 L9.9 -10.8 Q0 -8 -9.9 -10.8 Z", kOldGold);
-  f.studs(1.1F, {{-6, -8}, {0, -7.1F}, {6, -8}}, kCrimson);
+  add_helmet(f);
   f.at = {};
-  add_mail(f, "M55 75.4 C55.4 71.6 56.8 69 59.4 66.6 L68.4 70 C69 71.6 68.6 72.6 68 73.4 Z");
-  f.at = hand_place(68.5F, 58.6F, 0, -1);
-  add_fist(f, kWarrior);
-  add_cuff(f, kSteel);
-  f.at = {};
-  add_sword(f);
-  f.at = hand_place(68.5F, 58.6F, 0, -1);
-  add_fist_fingers(f, kWarrior);
-  f.at = {};
+  add_mail(f, "M55 75.4 C55.4 71.6 56.8 69 59.4 66.6 L68.4 70 C69 71.6 68.6 72.6 68 73.4 Z",
+           {"M55 75.4 C55.4 71.6 56.8 69 59.4 66.6 L68.4 70 C69 71.6 68.6 72.6 68 73.4 Z"});
+  add_hand(f, Hand::fist, hand_place(68.5F, 58.6F, 0, -1), kWarrior, kSteel, add_sword);
 }
 
 }  // namespace

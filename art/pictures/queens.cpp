@@ -1,5 +1,7 @@
 #include "pictures/cloth.h"
 #include "pictures/hands.h"
+#include "pictures/headgear.h"
+#include "pictures/held.h"
 
 namespace tombrello::art {
 namespace {
@@ -12,7 +14,6 @@ constexpr Rgba kChestnut{104, 56, 40, 255};
 constexpr Rgba kCopper{212, 102, 42, 255};
 constexpr Rgba kCopperInk{132, 54, 18, 255};
 constexpr Rgba kPlum{66, 48, 96, 255};
-constexpr Rgba kPetalInk{98, 8, 30, 255};
 
 constexpr Look kFair{{255, 228, 206, 255},
                      {244, 202, 176, 255},
@@ -30,11 +31,6 @@ constexpr Look kRosy{{255, 222, 198, 255},
                      0.9F};
 constexpr Look kPale{
     {250, 226, 212, 255}, {228, 196, 184, 255}, {36, 32, 46, 255}, {66, 84, 110, 255}, 1, 0.1F};
-
-void add_gown(Figure& f, const Path& motif, Rgba cloth) {
-  add_brocade(f, "M20 82 L20 71 C23 64 30 61 38 59.4 L62 59.4 C69 61 74 63.4 76 67.4 L76 71 Z",
-              motif, cloth, kGold);
-}
 
 constexpr std::string_view kBodice =
     "M39.6 60 C42 67 43.6 71 42.4 78.4 L58.4 74.8 C57.2 70 58.4 66 61.4 60 Z";
@@ -79,36 +75,6 @@ void add_parting(Figure& f, Rgba hair, Rgba ink) {
   f.line("M-1.2 -9 C-5 -9 -8 -6 -8.4 -2 M-0.8 -9 C4 -9 8 -5.6 8.6 -1", 0.5F, ink);
 }
 
-void add_rose(Figure& f) {
-  f.line("M28.4 45 C28 52 28.8 60 28 80", 1.7F, kInk);
-  f.line("M28.4 45 C28 52 28.8 60 28 80", 0.9F, kLeaf);
-  f.fine("M28.2 56 C24.6 56.4 22.4 54 21.8 50.4 C25.8 50.4 28.2 52.4 28.2 56 Z", kLeaf);
-  f.inked(
-      "M28.4 46.6 C24 47.4 20.8 44.4 21.8 40.8 C20.8 37 23.4 34 26.4 34.4 C28 32.4 31.4 32.6 32.6 "
-      "34.8 C35.4 35.6 36.4 39 35 41.4 C35.4 45 32 47.4 28.4 46.6 Z",
-      kCrimson);
-  f.plain("M22.8 40 C24 45 30 47 34.2 42.4 C33.4 45.4 31 46.2 28.6 46.2 C25 46.2 23 43.4 22.8 40 Z",
-          {140, 10, 36, 255});
-  f.line(
-      "M26.2 38.4 C26.6 35.4 31 35.4 31.4 38.6 C31.4 41 27.8 41.4 27.8 39.2 "
-      "M23.6 38 C23.6 43.4 31 45 33.6 40.4 M29 34.4 C31.6 34.4 33.6 36 33.8 38.4",
-      0.6F, kPetalInk);
-}
-
-void add_pearl_crown(Figure& f) {
-  f.inked(
-      "M-8.8 -9.6 C-11 -12.6 -11.4 -17 -8.4 -18.6 C-6.2 -19.2 -4.6 -17.8 -4.4 -16 "
-      "C-4 -19.6 -1.8 -22.4 0 -24 C1.8 -22.4 4 -19.6 4.4 -16 C4.6 -17.8 6.2 -19.2 8.4 -18.6 "
-      "C11.4 -17 11 -12.6 8.8 -9.6 Q0 -12.6 -8.8 -9.6 Z",
-      kGold);
-  f.plain(suit_outline(Suit::hearts, {0, -16.4F}, 5.4F), kCrimson);
-  f.studs(1, {{-7.4F, -14.4F}, {7.4F, -14.4F}}, kNavy);
-  f.studs(
-      0.95F,
-      {{-8.4F, -9.4F}, {-5.2F, -10.5F}, {-1.8F, -11}, {1.8F, -11}, {5.2F, -10.5F}, {8.4F, -9.4F}},
-      kWhite);
-}
-
 // Hearts: golden and kind, with a rose.
 void add_queen_of_hearts(Figure& f) {
   const Affine head = head_place(50, 41, -3, 1);
@@ -122,7 +88,7 @@ void add_queen_of_hearts(Figure& f) {
       "M11 0 C9.8 7 13 12 11.6 19 M8.8 5 C8.6 11 11 15 9.4 20 M12.8 4 C12.6 9 14 11 13 16",
       0.55F, kBlondeInk);
   f.at = {};
-  add_gown(f, motif::pomegranate(), kCrimson);
+  add_shoulders(f, motif::pomegranate(), kCrimson, kGold);
   f.inked(kBodice, kCream);
   add_bust(f, kFair);
   add_neckline(f, kGold);
@@ -135,23 +101,7 @@ void add_queen_of_hearts(Figure& f) {
   f.at = {};
   f.inked("M31.4 79.8 C31 76.6 32 73.6 33.4 70.6 L43.6 71.6 C45 74 45.2 75.8 44.6 77.4 Z", kNavy);
   f.line("M35 79 C35 76.4 35.4 74.6 36.6 72.4 M40 78 C40.4 76 40.2 74.4 39.8 72.6", 0.8F, kGold);
-  f.at = hand_place(28, 60.5F, 0, 1);
-  add_spread_fingers(f, kFair);
-  add_pinch(f, kFair);
-  add_cuff(f, kCream);
-  f.at = {};
-  add_rose(f);
-  f.at = hand_place(28, 60.5F, 0, 1);
-  add_pinch_fingers(f, kFair);
-  f.at = {};
-}
-
-void add_mirror(Figure& f) {
-  f.inked("M66.5 52 L68.9 52 L69.2 72 L66.2 72 Z", kGold);
-  f.inked(ellipse({67.7F, 43.6F}, 6.7F, 9), kGold);
-  f.fine(ellipse({67.7F, 43.6F}, 4.9F, 7), {204, 230, 240, 255});
-  f.line("M65.2 46.6 L69.6 38.6 M66.6 49 L71 41", 1, kWhite);
-  f.inked(moved(motif::lozenge(), shift(67.7F, 33.4F) * scaling(1.1F, 1)), kVermilion);
+  add_hand(f, Hand::spread, hand_place(28, 60.5F, 0, 1), kFair, kCream, add_rose);
 }
 
 // A roll of hair in a golden net behind the ear.
@@ -172,19 +122,10 @@ void add_caul(Figure& f) {
       kGold);
 }
 
-void add_diamond_crown(Figure& f) {
-  f.inked(
-      "M-7.6 -11 L-9 -17 L-5.6 -15.4 L-4.4 -20 L-2 -16.4 L0.4 -24.4 L2.8 -16.4 L5.2 -20 "
-      "L6.4 -15.4 L9.8 -17 L8.4 -11 Q0.4 -13.6 -7.6 -11 Z",
-      kGold);
-  f.fine(moved(motif::lozenge(), shift(0.4F, -15.6F) * scaling(1.1F, 1.1F)), kVermilion);
-  f.studs(0.8F, {{-4.6F, -13.2F}, {5.4F, -13.2F}}, kTeal);
-}
-
 // Diamonds: dark and elegant, in profile, before her mirror.
 void add_queen_of_diamonds(Figure& f) {
   const Affine head = head_place(48, 41, 2, -1);
-  add_gown(f, motif::lozenge(), kTeal);
+  add_shoulders(f, motif::lozenge(), kTeal, kGold);
   f.inked("M38.6 60 C42 67 43.4 71 42 78.4 L58 74.8 C57 70 57.6 66 58.4 60 Z", kGold);
   f.line("M43 70 L57 75 M42.6 75 L48 77 M57.4 68.6 L43.4 77.4 M57.4 72.8 L51 76.4", 0.6F, kOldGold);
   f.inked(
@@ -213,14 +154,7 @@ void add_queen_of_diamonds(Figure& f) {
   add_diamond_crown(f);
   f.at = {};
   f.inked("M54.6 75.8 C54.6 72 56 69.6 58 67.4 L67 70 C68 71.4 67.8 72.6 67 73.6 Z", kTeal);
-  f.at = hand_place(67.7F, 59, 0, -1);
-  add_fist(f, kOlive);
-  add_cuff(f, kCream);
-  f.at = {};
-  add_mirror(f);
-  f.at = hand_place(67.7F, 59, 0, -1);
-  add_fist_fingers(f, kOlive);
-  f.at = {};
+  add_hand(f, Hand::fist, hand_place(67.7F, 59, 0, -1), kOlive, kCream, add_mirror);
 }
 
 void add_braid(Figure& f, float x, float y, float lean) {
@@ -236,43 +170,6 @@ void add_braid(Figure& f, float x, float y, float lean) {
           kCopper);
 }
 
-void add_fan(Figure& f, Point pivot, float reach) {
-  const auto leaf = [&](float share) {
-    Path path;
-    path.move(pivot);
-    for (int i = 0; i <= 10; ++i) {
-      const Affine spoke = shift(pivot.x, pivot.y) * turning(-34.0F + static_cast<float>(i) * 6.8F);
-      path.line(spoke({0, (i % 2 == 0 ? -reach : 1 - reach) * share}));
-    }
-    path.close();
-    return path;
-  };
-  f.inked(leaf(1), kCream);
-  f.fine(leaf(0.84F), kCrimson);
-  f.fine(leaf(0.62F), kCream);
-  f.fine(leaf(0.34F), kGold);
-  Path ribs;
-  for (int i = 0; i <= 10; i += 2) {
-    const Affine spoke = shift(pivot.x, pivot.y) * turning(-34.0F + static_cast<float>(i) * 6.8F);
-    ribs.move(pivot);
-    ribs.line(spoke({0, -reach}));
-  }
-  f.line(ribs, 0.5F, kInk);
-}
-
-void add_club_crown(Figure& f) {
-  Path clubs;
-  for (const Point& at : {Point{-9.4F, -17.6F}, Point{0, -20}, Point{9.4F, -17.6F}}) {
-    join(clubs, suit_outline(Suit::clubs, at, 7.4F));
-  }
-  f.inked(
-      "M-8.6 -9.4 L-10 -15.4 L-8.6 -15.4 L-5 -12.8 L-0.8 -17 L0.8 -17 L5 -12.8 L8.6 -15.4 "
-      "L10 -15.4 L8.6 -9.4 Q0 -12 -8.6 -9.4 Z",
-      kGold);
-  f.fine(clubs, kTeal);
-  f.studs(0.95F, {{-6, -11}, {0, -12.2F}, {6, -11}}, kCrimson);
-}
-
 // Clubs: copper braids and freckles, merry, with a fan.
 void add_queen_of_clubs(Figure& f) {
   const Affine head = head_place(50.5F, 41, 3, -1);
@@ -282,7 +179,7 @@ void add_queen_of_clubs(Figure& f) {
       "C11.6 6 12.6 -4 8 -10 Z",
       kCopper);
   f.at = {};
-  add_gown(f, motif::sprig(), kTeal);
+  add_shoulders(f, motif::sprig(), kTeal, kGold);
   f.inked(kBodice, kCrimson);
   add_bust(f, kRosy);
   add_neckline(f, kCream);
@@ -298,37 +195,7 @@ void add_queen_of_clubs(Figure& f) {
   add_braid(f, 61.4F, 48.4F, 0.5F);
   f.inked("M32.6 79.6 C32.4 76.8 33.6 74.4 35 72 L44.6 72.6 C45.8 74.6 46 76 45.4 77.2 Z",
           kCrimson);
-  f.at = hand_place(32.4F, 63, 0, 1);
-  add_pinch(f, kRosy);
-  add_cuff(f, kCream);
-  f.at = {};
-  add_fan(f, {32.4F, 65.6F}, 20);
-  f.at = hand_place(32.4F, 63, 0, 1);
-  add_pinch_fingers(f, kRosy);
-  f.at = {};
-}
-
-void add_tulip(Figure& f) {
-  f.line("M67.3 34 C68.1 46 66.7 58 67.5 74", 1.8F, kInk);
-  f.line("M67.3 34 C68.1 46 66.7 58 67.5 74", 1, kLeaf);
-  f.fine("M67.5 52 C63.1 50 60.9 44 61.7 38 C65.7 41.4 67.9 46 67.5 52 Z", kLeaf);
-  f.fine("M67.7 50 C70.9 48 73.3 44 73.3 39 C69.9 41.4 67.9 45 67.7 50 Z", kLeaf);
-  f.inked(
-      "M61.3 19.4 L64.3 22.6 L67.3 16.6 L70.3 22.6 L73.3 19.4 C74.3 28 71.9 35 67.3 35 "
-      "C62.7 35 60.3 28 61.3 19.4 Z",
-      kCrimson);
-  f.plain("M70.3 22.6 L72.9 20 C73.7 28 71.5 34.2 67.7 34.6 C70.1 31 71.3 27 70.3 22.6 Z",
-          {140, 10, 36, 255});
-  f.line("M64.3 22.6 C63.7 27 64.7 31 67.3 34.4 C69.9 31 70.9 27 70.3 22.6", 0.55F, kPetalInk);
-}
-
-void add_spiked_crown(Figure& f) {
-  f.inked(
-      "M-8.6 -11.4 L-10.4 -18.6 L-6.2 -15.8 L-4.4 -21 L-2 -16.6 L0 -24.4 L2 -16.6 L4.4 -21 "
-      "L6.2 -15.8 L10.4 -18.6 L8.6 -11.4 Q0 -14 -8.6 -11.4 Z",
-      kGold);
-  f.plain(suit_outline(Suit::spades, {0, -15.6F}, 4.8F), kInk);
-  f.studs(0.9F, {{-5.4F, -13.8F}, {5.4F, -13.8F}}, kCrimson);
+  add_hand(f, Hand::pinch, hand_place(32.4F, 63, 0, 1), kRosy, kCream, add_fan);
 }
 
 // Spades: the widow, severe in wimple and veil, with a tulip.
@@ -365,15 +232,7 @@ void add_queen_of_spades(Figure& f) {
   add_spiked_crown(f);
   f.at = {};
   f.inked("M54 76 C54 72.6 55.6 70 57.4 67.6 L66.6 70 C67.6 71.4 67.4 72.8 66.6 73.8 Z", kPlum);
-  f.at = hand_place(67.6F, 58.5F, 0, -1);
-  add_spread_fingers(f, kPale);
-  add_pinch(f, kPale);
-  add_cuff(f, kCream);
-  f.at = {};
-  add_tulip(f);
-  f.at = hand_place(67.6F, 58.5F, 0, -1);
-  add_pinch_fingers(f, kPale);
-  f.at = {};
+  add_hand(f, Hand::spread, hand_place(67.6F, 58.5F, 0, -1), kPale, kCream, add_tulip);
 }
 
 }  // namespace

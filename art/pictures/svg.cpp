@@ -51,7 +51,8 @@ std::string outline(const Path& path) {
 std::string gradient(const Paint& paint, const std::string& id) {
   const bool linear = paint.kind == Paint::Kind::linear;
   const std::string tag = linear ? "linearGradient" : "radialGradient";
-  std::string text = std::string("<") + tag + attribute("id", id) + attribute("gradientUnits", "userSpaceOnUse");
+  std::string text =
+      std::string("<") + tag + attribute("id", id) + attribute("gradientUnits", "userSpaceOnUse");
   if (linear) {
     text += attribute("x1", paint.from.x) + attribute("y1", paint.from.y) +
             attribute("x2", paint.to.x) + attribute("y2", paint.to.y);
