@@ -86,7 +86,7 @@ void add_pearl_crown(Figure& f) {
       kGold,
       "M0 -24 C1.8 -22.4 4 -19.6 4.4 -16 C4.6 -17.8 6.2 -19.2 8.4 -18.6 C11.4 -17 11 -12.6 8.8 "
       "-9.6 Q4 -11.1 0 -11.1 Z");
-  f.plain(suit_outline(Suit::hearts, {0, -16.4F}, 5.4F), kCrimson);
+  f.plain(suit_outline(Suit::hearts, {0, -16.4F}, 5.4F), suit_colour(Suit::hearts));
   f.studs(1, {{-7.4F, -14.4F}, {7.4F, -14.4F}}, kNavy);
   f.studs(
       0.95F,
@@ -112,7 +112,7 @@ void add_club_crown(Figure& f) {
       "M-8.6 -9.4 L-10 -15.4 L-8.6 -15.4 L-5 -12.8 L-0.8 -17 L0.8 -17 L5 -12.8 L8.6 -15.4 "
       "L10 -15.4 L8.6 -9.4 Q0 -12 -8.6 -9.4 Z",
       kGold, "M0 -17 L0.8 -17 L5 -12.8 L8.6 -15.4 L10 -15.4 L8.6 -9.4 Q4 -10.7 0 -10.7 Z");
-  f.fine(clubs, kTeal);
+  f.fine(clubs, suit_colour(Suit::clubs));
   f.studs(0.95F, {{-6, -11}, {0, -12.2F}, {6, -11}}, kCrimson);
 }
 

@@ -16,19 +16,20 @@ void add_sceptre(Figure& f) {
   f.inked("M26 24 L28 24 L28.4 80 L25.6 80 Z", kGold);
   f.inked(ellipse({27, 26.4F}, 2.9F, 1.6F), kGold);
   f.inked(ellipse({27, 47}, 2.2F, 1.3F), kGold);
-  f.inked(suit_outline(Suit::hearts, {27, 18.6F}, 11.6F), kCrimson);
+  f.inked(suit_outline(Suit::hearts, {27, 18.6F}, 11.6F), suit_colour(Suit::hearts));
   f.plain("M23.6 17 C23.6 15 24.8 14.2 26 14.6 C25 15.2 24.4 16 23.6 17 Z", kCream);
 }
 
 void add_axe(Figure& f) {
-  f.inked("M64 13 L66.4 13 L66.8 74 L63.6 74 Z", kWood);
+  f.inked("M63.5 13 L65.9 13 L66.3 74 L63.1 74 Z", kWood);
   f.inked(
-      "M66.4 17.4 C69.6 17.4 71.6 15.6 72.8 13 C75 19 75 27 72.8 33.4 C71.4 30.4 69.4 29 66.4 29 "
+      "M65.9 17.4 C69.1 17.4 71.1 15.6 72.3 13 C74.5 19 74.5 27 72.3 33.4 C70.9 30.4 68.9 29 65.9 "
+      "29 "
       "Z",
       kSteel);
-  f.line("M72.2 16.4 C73.4 21 73.4 26 72.2 30.2", 0.7F, kWhite);
-  f.inked("M64 19.6 L60.4 23.2 L64 26.8 Z", kSteel);
-  f.fine("M63.6 30.6 L66.8 30.6 L66.8 33 L63.6 33 Z", kGold);
+  f.line("M71.7 16.4 C72.9 21 72.9 26 71.7 30.2", 0.7F, kWhite);
+  f.inked("M63.5 19.8 L60.6 23.2 L63.5 26.6 Z", kSteel);
+  f.fine("M63.1 30.6 L66.3 30.6 L66.3 33 L63.1 33 Z", kGold);
 }
 
 void add_orb(Figure& f) {
@@ -123,7 +124,7 @@ void add_letter(Figure& f) {
   f.inked("M-7.6 -5.8 L7.6 -5.8 L7.6 5.8 L-7.6 5.8 Z", kWhite);
   f.line("M-7.6 5.8 L-2.2 -0.2 M7.6 5.8 L2.2 -0.2", 0.5F, kInk);
   f.fine("M-7.6 -5.8 L7.6 -5.8 L1.2 1 Q0 2 -1.2 1 Z", kCream);
-  f.fine(suit_outline(Suit::hearts, {0, 0.9F}, 5.6F), kCrimson);
+  f.fine(suit_outline(Suit::hearts, {0, 0.9F}, 5.6F), suit_colour(Suit::hearts));
   f.at = before;
 }
 
@@ -138,6 +139,7 @@ void add_pennon(Figure& f) {
 }
 
 void add_bow(Figure& f) {
+  f.line("M62.2 14 L62.2 65", 0.55F, kInk);
   f.inked(
       "M61 12.6 C62.8 12.2 64 13.4 64.8 15.4 C66.6 19.6 72.6 27 72.9 39.5 C72.6 52 66.6 59.4 "
       "64.8 63.6 C64 65.6 62.8 66.8 61 66.4 C62.2 65.8 62.6 65 63 63.2 "

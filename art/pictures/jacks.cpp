@@ -28,15 +28,9 @@ constexpr Look kRuddy{
 constexpr Look kSullen{
     {238, 208, 184, 255}, {212, 174, 148, 255}, {40, 36, 50, 255}, {72, 78, 104, 255}, 1.2F, -0.4F};
 
-// Hearts: the fair messenger, with a letter.
-void add_jack_of_hearts(Figure& f) {
-  add_shoulders(f, moved(suit_outline(Suit::hearts, {0, 0}, 4), scaling(0.9F, 1)), kNavy, kGold);
-  f.inked("M38 59.4 L57 59.4 C58.6 65 58.6 70 57.4 75 L38 79 C36.6 72 36.6 66 38 59.4 Z", kCrimson);
-  f.line("M42 61 L41.4 78 M54 61 L54.4 75.4", 1.1F, kGold);
-  f.line("M47.4 60 L47.4 76.6", 0.5F, kInk);
-  f.studs(1.1F, {{47.4F, 66}, {47.4F, 70.2F}}, kGold);
-  const Affine head = head_place(43.6F, 41.5F, -2, -1);
-  f.at = head;
+// Fair locks to the collar.
+void add_page_head(Figure& f) {
+  f.at = head_place(43.6F, 41.5F, -2, -1);
   f.inked(
       "M-8 -9 C-11.4 -7 -11.4 -3 -9.8 -1 C-12 1.4 -11.6 4.6 -9.6 6 C-10.8 9 -9 12 -6 11.4 L8 12 "
       "C11.4 13.6 14.6 11 13.2 8 C15.6 5.8 15 2 12.4 1 C14.4 -2.4 13 -7 8.6 -9 Z",
@@ -57,6 +51,16 @@ void add_jack_of_hearts(Figure& f) {
       0.5F, kStrawInk);
   add_page_cap(f);
   f.at = {};
+}
+
+// Hearts: the fair messenger, with a letter.
+void add_jack_of_hearts(Figure& f) {
+  add_shoulders(f, moved(suit_outline(Suit::hearts, {0, 0}, 4), scaling(0.9F, 1)), kNavy, kGold);
+  f.inked("M38 59.4 L57 59.4 C58.6 65 58.6 70 57.4 75 L38 79 C36.6 72 36.6 66 38 59.4 Z", kCrimson);
+  f.line("M42 61 L41.4 78 M54 61 L54.4 75.4", 1.1F, kGold);
+  f.line("M47.4 60 L47.4 76.6", 0.5F, kInk);
+  f.studs(1.1F, {{47.4F, 66}, {47.4F, 70.2F}}, kGold);
+  add_page_head(f);
   f.inked("M35 60 C37.6 57 41 57 46.4 61.4 C51.4 57 55 56.8 58 59.6 L55 67 L46.4 62.6 L38.4 67 Z",
           kCream);
   f.inked("M53.6 76 C53 71.6 54.6 67.4 57 64.6 L67 66.4 C68.6 68.8 68.6 71.4 67.6 73.4 Z",
@@ -128,14 +132,9 @@ void add_quiver(Figure& f) {
   f.at = {};
 }
 
-// Clubs: the archer of the woods, freckled, looking straight ahead, with his bow.
-void add_jack_of_clubs(Figure& f) {
-  add_quiver(f);
-  add_shoulders(f, motif::sprig(), kTeal, {92, 176, 140, 255});
-  f.inked("M34 59 L39 59 L58.6 73 L57.6 75 L54 75.6 Z", kWood);
-  f.studs(0.8F, {{41, 64}, {45, 66.8F}, {49, 69.6F}}, kGold);
-  const Affine head = head_place(44, 41.5F, 0, 1);
-  f.at = head;
+// A fringe and freckles under the cap.
+void add_archer_head(Figure& f) {
+  f.at = head_place(44, 41.5F, 0, 1);
   f.inked("M-9 -8 C-11.6 -2 -11.4 4 -10.6 9 C-6 13.4 6 13.4 10.6 9 C11.4 4 11.6 -2 9 -8 Z", kRust);
   add_neck(f, kRuddy);
   add_man_facing(f, kRuddy);
@@ -156,12 +155,20 @@ void add_jack_of_clubs(Figure& f) {
       kRust);
   add_hunter_cap(f);
   f.at = {};
+}
+
+// Clubs: the archer of the woods, freckled, looking straight ahead, with his bow.
+void add_jack_of_clubs(Figure& f) {
+  add_quiver(f);
+  add_shoulders(f, motif::sprig(), kTeal, {92, 176, 140, 255});
+  f.inked("M34 59 L39 59 L58.6 73 L57.6 75 L54 75.6 Z", kWood);
+  f.studs(0.8F, {{41, 64}, {45, 66.8F}, {49, 69.6F}}, kGold);
+  add_archer_head(f);
   f.inked(
       "M26 66 C28 61 33 58 38 56.4 C41 60.4 47 60.4 50 56.4 C55 58 60 61 62 65 L57.6 63.8 "
       "L54.6 68.6 L50.4 64.8 L46.4 70.4 L42 65.2 L37.6 70.6 L34 65.6 L30 69.8 Z",
       kCrimson);
   f.line("M38.6 59 C41.4 62.6 46.6 62.6 49.4 59", 0.5F, kInk);
-  f.line("M62.2 14.6 L62.2 64.6", 0.55F, kInk);
   f.inked("M54.6 75.8 C54.8 66 56 58 59.4 50.6 L66.4 53.6 C66.4 62 67.4 68 67 73.6 Z", kCream);
   f.line("M58.4 74 C58.6 67 59.4 61 61 55.4 M62.8 73.6 C63 67.6 63.4 62 64 57.4", 0.5F, kInk);
   add_hand(f, Hand::fist, hand_place(71.2F, 40.4F, 4, -1), kRuddy, kGold, add_bow);

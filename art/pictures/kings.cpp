@@ -61,8 +61,8 @@ void add_old_head(Figure& f) {
 void add_king_of_hearts(Figure& f) {
   add_shoulders(f, motif::pomegranate(), kCrimson, kGold);
   add_ermine(f,
-             "M31 62 C35 57.6 41 56 46 56 L54 56 C59 56 65 57.6 69 61 C68 66.6 60 71 50 71 "
-             "C40 71 32 67.4 31 62 Z");
+             "M34.4 62.6 C37 58 42 56 46 56 L54 56 C59 56 65 57.6 69 61 C68 66.6 60 71 50 71 "
+             "C42 71 35.6 68 34.4 62.6 Z");
   add_old_head(f);
   f.inked("M32 80 C32.6 76.4 33.6 74 35 71.4 L43 73.6 C43.4 75.4 43.2 76.6 42.6 77.8 Z", kNavy);
   add_hand(f, Hand::fist, hand_place(27, 61.5F, 0, 1), kOld, kCream, add_sceptre);
@@ -70,7 +70,7 @@ void add_king_of_hearts(Figure& f) {
 
 // Seen from the side, with a pointed beard.
 void add_merchant_head(Figure& f) {
-  f.at = head_place(45.5F, 41, 0, 1);
+  f.at = head_place(44.6F, 41, 0, 1);
   add_man_aside(f, kShrewd);
   f.inked("M-4 15.4 C0 18.6 6 18 10.6 14.6 L12.6 19.6 C7 23.6 0 24 -5.4 20.6 Z", kTeal);
   f.line("M-4.6 19.2 C0 22 6.6 21.6 11.8 18", 0.9F, kGold);
@@ -119,7 +119,7 @@ void add_king_of_diamonds(Figure& f) {
   f.line("M39 60.4 C39.6 68 44 73.4 48.6 74 C53.6 73 57.6 67 58.4 59.6", 0.7F, kGold);
   add_merchant_head(f);
   f.inked("M54 76 C54.6 72.6 56 69.6 57.6 66.6 L66 70.4 C66.4 72 66 73.2 65.2 74.2 Z", kVermilion);
-  add_hand(f, Hand::fist, hand_place(65.2F, 56.5F, 0, -1), kShrewd, kGold, add_axe);
+  add_hand(f, Hand::fist, hand_place(64.7F, 56.5F, 0, -1), kShrewd, kGold, add_axe);
 }
 
 // Clubs: the builder king, brown and broad, looking straight ahead, with the orb.

@@ -93,7 +93,7 @@ void add_queen_of_hearts(Figure& f) {
   add_bust(f, kFair);
   add_neckline(f, kGold);
   add_pearls(f, kWhite);
-  f.inked(suit_outline(Suit::hearts, {50.5F, 66.8F}, 4.4F), kCrimson);
+  f.inked(suit_outline(Suit::hearts, {50.5F, 66.8F}, 4.4F), suit_colour(Suit::hearts));
   f.at = head;
   add_lady_turned(f, kFair);
   add_parting(f, kBlonde, kBlondeInk);
