@@ -22,11 +22,13 @@ class Belt {
     inked(face_, moved(polygon({{-28, -half}, {28, -half}, {28, half}, {-28, half}}), place_),
           colour, ink, kInk);
   }
+  void clasp(const Path& path, Rgba colour, float ink) {
+    inked(face_, moved(path, place_), colour, ink, kInk);
+  }
   /// Both halves of the belt bear the same, turned.
   void both(const Path& half, Rgba colour, float ink = 0) {
-    Path all = half;
-    join(all, moved(half, scaling(-1, -1)));
-    inked(face_, moved(all, place_), colour, ink, kInk);
+    inked(face_, moved(half, place_), colour, ink, kInk);
+    inked(face_, moved(half, place_ * scaling(-1, -1)), colour, ink, kInk);
   }
 
  private:
@@ -54,8 +56,8 @@ void add_hearts(Belt& belt) {
   belt.band(3, suit_colour(Suit::hearts), 0.4F);
   belt.both(suit_along(Suit::hearts, 4.4F, {8.6F, 16, 23.4F}), kCream);
   belt.both(along(circle({0, 0}, 0.7F), {12.3F, 19.7F}), kGold);
-  belt.both(circle({0, 0}, 4.6F), kGold, 0.6F);
-  belt.both(circle({0, 0}, 2.6F), kNavy, 0.5F);
+  belt.clasp(circle({0, 0}, 4.6F), kGold, 0.6F);
+  belt.clasp(circle({0, 0}, 2.6F), kNavy, 0.5F);
 }
 
 // Lozenges in two colours, as of a chequered cloth.
@@ -63,8 +65,8 @@ void add_diamonds(Belt& belt) {
   belt.band(4.2F, kTeal, 0.75F);
   belt.both(along(lozenge(4, 4.2F), {8, 16, 24}), suit_colour(Suit::diamonds), 0.5F);
   belt.both(along(lozenge(1.4F, 1.6F), {4, 8, 12, 16, 20, 24}), kGold);
-  belt.both(lozenge(5, 5), kGold, 0.6F);
-  belt.both(lozenge(2.6F, 2.6F), suit_colour(Suit::diamonds), 0.5F);
+  belt.clasp(lozenge(5, 5), kGold, 0.6F);
+  belt.clasp(lozenge(2.6F, 2.6F), suit_colour(Suit::diamonds), 0.5F);
 }
 
 // Leather with trefoils and a ring.
@@ -73,8 +75,8 @@ void add_clubs(Belt& belt) {
   belt.band(2.9F, {150, 94, 52, 255}, 0.4F);
   belt.both(suit_along(Suit::clubs, 4.8F, {9.2F, 16.6F, 24}), {255, 226, 150, 255});
   belt.both(along(circle({0, 0}, 0.8F), {12.9F, 20.3F}), kInk);
-  belt.both(circle({0, 0}, 5), kGold, 0.6F);
-  belt.both(circle({0, 0}, 2.8F), suit_colour(Suit::clubs), 0.5F);
+  belt.clasp(circle({0, 0}, 5), kGold, 0.6F);
+  belt.clasp(circle({0, 0}, 2.8F), suit_colour(Suit::clubs), 0.5F);
 }
 
 // Black between silver, with a chain of plates.
@@ -84,8 +86,8 @@ void add_spades(Belt& belt) {
   belt.both(suit_along(Suit::spades, 4.8F, {8.4F, 16.2F, 24}), kSteel);
   belt.both(along(polygon({{-0.6F, -2}, {0.6F, -2}, {0.6F, 2}, {-0.6F, 2}}), {12.3F, 20.1F}),
             kCrimson);
-  belt.both(rounded_box(-4.4F, -4.8F, 4.4F, 4.8F, 1), kGold, 0.6F);
-  belt.both(rounded_box(-2.4F, -2.8F, 2.4F, 2.8F, 0.6F), kCrimson, 0.5F);
+  belt.clasp(rounded_box(-4.4F, -4.8F, 4.4F, 4.8F, 1), kGold, 0.6F);
+  belt.clasp(rounded_box(-2.4F, -2.8F, 2.4F, 2.8F, 0.6F), kCrimson, 0.5F);
 }
 
 }  // namespace

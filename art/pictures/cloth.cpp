@@ -55,7 +55,8 @@ void add_shoulders(Figure& f, const Path& motif, Rgba ground, Rgba thread) {
           ground);
   // The motifs stay clear of the belt and of what lies over the breast.
   f.figured("M21.2 81 L21.2 69 C23 63.4 30 60.2 38 58.6 L46 58.6 L46 77 Z", motif, kRepeat, thread);
-  f.figured("M54 58.6 L61 58.6 C68 60.2 73 62.6 74.8 65.4 L74.8 70.6 L54 75 Z", motif, kRepeat, thread);
+  f.figured("M54 58.6 L61 58.6 C68 60.2 73 62.6 74.8 65.4 L74.8 70.6 L54 75 Z", motif, kRepeat,
+            thread);
   f.plain(
       "M67.4 60.4 C71.6 62 74.6 64.2 75.7 67 L75.7 70.6 L66.8 72.4 C68.8 68.6 69 64.4 67.4 60.4 Z",
       kFold);

@@ -1,5 +1,6 @@
 #include "pictures/faces.h"
 
+#include <utility>
 #include <vector>
 
 #include "pictures/glyphs.h"
@@ -17,19 +18,20 @@ constexpr float kIndexHeight = 22;
 constexpr float kIndexSuitMiddle = 38;
 constexpr float kIndexSuitSize = 15;
 
-void add_indices(Drawing& face, Suit suit, int rank) {
-  Path ranks;
-  Path suits;
-  for (const float middle : {kIndexMiddle, kCardWidth - kIndexMiddle}) {
-    join(ranks, index_outline(rank, middle, kIndexTop, kIndexHeight));
-    join(suits, suit_outline(suit, {middle, kIndexSuitMiddle}, kIndexSuitSize));
-  }
-  const Affine turn = half_turn(kCardWidth, kCardHeight);
-  join(ranks, moved(ranks, turn));
-  join(suits, moved(suits, turn));
-  fill(face, ranks, suit_colour(suit));
+// Everything that is told more than once on a face is a shape each time: small shapes paint
+// faster than one that is spread over the card.
+void add_index(Drawing& face, Suit suit, int rank, float middle, const Affine& turn) {
+  fill(face, moved(index_outline(rank, middle, kIndexTop, kIndexHeight), turn), suit_colour(suit));
   face.shapes.back().even_odd = true;
-  fill(face, suits, suit_colour(suit));
+  fill(face, moved(suit_outline(suit, {middle, kIndexSuitMiddle}, kIndexSuitSize), turn),
+       suit_colour(suit));
+}
+
+void add_indices(Drawing& face, Suit suit, int rank) {
+  for (const float middle : {kIndexMiddle, kCardWidth - kIndexMiddle}) {
+    add_index(face, suit, rank, middle, {});
+    add_index(face, suit, rank, middle, half_turn(kCardWidth, kCardHeight));
+  }
 }
 
 // Places of the pips: columns -1, 0, 1 and the height from the top, in sixths of the pips' field.
@@ -56,14 +58,12 @@ void add_pips(Drawing& face, Suit suit, int rank) {
   const float size = rank <= 3 ? 23.0F : 20.0F;
   const float top = 24;
   const float row = (kCardHeight - 2 * top) / 6;
-  Path all;
   for (const Pip& pip : pips(rank)) {
     const Point at{kCardWidth / 2 + pip.column * 18, top + pip.row * row};
     Path path = suit_outline(suit, at, size);
     if (pip.row > 3) path = moved(path, half_turn(2 * at.x, 2 * at.y));
-    join(all, path);
+    fill(face, std::move(path), suit_colour(suit));
   }
-  fill(face, all, suit_colour(suit));
 }
 
 }  // namespace

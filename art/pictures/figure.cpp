@@ -77,9 +77,7 @@ void Figure::sprinkle(const Path& motif, const std::vector<Point>& places, Rgba 
 }
 
 void Figure::studs(float radius, const std::vector<Point>& places, Rgba colour) {
-  Path all;
-  for (const Point& place : places) join(all, circle(place, radius));
-  fine(all, colour);
+  for (const Point& place : places) fine(circle(place, radius), colour);
 }
 
 void Figure::figured(std::string_view cloth, const Path& motif, Point step, Rgba colour) {

@@ -57,11 +57,9 @@ void add_trefoil_crown(Figure& f) {
       "M-9.8 -11 L-11 -16.4 L-9.4 -16.4 L-5 -13.6 L-0.8 -18 L0.8 -18 L5 -13.6 L9.4 -16.4 "
       "L11 -16.4 L9.8 -11 Q0 -8.4 -9.8 -11 Z",
       kGold, "M0 -18 L0.8 -18 L5 -13.6 L9.4 -16.4 L11 -16.4 L9.8 -11 Q5 -9.7 0 -9.6 Z");
-  Path trefoils;
   for (const Point& at : {Point{-10.6F, -18.6F}, Point{0, -20.6F}, Point{10.6F, -18.6F}}) {
-    join(trefoils, suit_outline(Suit::clubs, at, 7.2F));
+    f.fine(suit_outline(Suit::clubs, at, 7.2F), kGold);
   }
-  f.fine(trefoils, kGold);
   f.inked("M-9.4 -7 Q0 -4.2 9.4 -7 L10 -11 Q0 -8.4 -10 -11 Z", kTeal);
   f.studs(1, {{-7, -8.6F}, {-3.6F, -7.8F}, {0, -7.5F}, {3.6F, -7.8F}, {7, -8.6F}}, kCream);
   f.studs(0.9F, {{-10.6F, -18.6F}, {0, -20.6F}, {10.6F, -18.6F}}, kCrimson);
@@ -104,15 +102,13 @@ void add_diamond_crown(Figure& f) {
 }
 
 void add_club_crown(Figure& f) {
-  Path clubs;
-  for (const Point& at : {Point{-9.4F, -17.6F}, Point{0, -20}, Point{9.4F, -17.6F}}) {
-    join(clubs, suit_outline(Suit::clubs, at, 7.4F));
-  }
   f.shaded(
       "M-8.6 -9.4 L-10 -15.4 L-8.6 -15.4 L-5 -12.8 L-0.8 -17 L0.8 -17 L5 -12.8 L8.6 -15.4 "
       "L10 -15.4 L8.6 -9.4 Q0 -12 -8.6 -9.4 Z",
       kGold, "M0 -17 L0.8 -17 L5 -12.8 L8.6 -15.4 L10 -15.4 L8.6 -9.4 Q4 -10.7 0 -10.7 Z");
-  f.fine(clubs, suit_colour(Suit::clubs));
+  for (const Point& at : {Point{-9.4F, -17.6F}, Point{0, -20}, Point{9.4F, -17.6F}}) {
+    f.fine(suit_outline(Suit::clubs, at, 7.4F), suit_colour(Suit::clubs));
+  }
   f.studs(0.95F, {{-6, -11}, {0, -12.2F}, {6, -11}}, kCrimson);
 }
 
