@@ -13,7 +13,6 @@ constexpr Rgba kMist{206, 218, 242, 255};
 constexpr Rgba kCoral{232, 108, 74, 255};
 constexpr Rgba kBrick{186, 58, 44, 255};
 constexpr Rgba kIvory{255, 243, 222, 255};
-constexpr Rgba kPeach{250, 190, 148, 255};
 
 struct Field {
   float left;
@@ -23,22 +22,6 @@ struct Field {
 
   Point middle() const { return {(left + right) / 2, (top + bottom) / 2}; }
 };
-
-// Petals around a point, from radius `inner` to `outer`.
-Path petals(Point middle, int count, float inner, float outer, float width) {
-  Path all;
-  const float swell = inner + (outer - inner) * 0.6F;
-  for (int i = 0; i < count; ++i) {
-    Path petal;
-    petal.move({0, -inner});
-    petal.cubic({-width, -swell}, {-width, -outer}, {0, -outer});
-    petal.cubic({width, -outer}, {width, -swell}, {0, -inner});
-    petal.close();
-    const float angle = 360.0F * static_cast<float>(i) / static_cast<float>(count);
-    join(all, moved(petal, shift(middle.x, middle.y) * turning(angle)));
-  }
-  return all;
-}
 
 void add_ring(Drawing& back, Point middle, float radius, float width, Rgba colour) {
   Path ring = circle(middle, radius);
@@ -118,8 +101,8 @@ void add_first_back(Drawing& back) {
   add_beads(back, 9.2F, 1.05F, kMist);
   add_frame(back, 11.4F, 0.8F, kWhite);
   const Field field{12.6F, 12.6F, kCardWidth - 12.6F, back.height - 12.6F};
-  add_rows(back, field, star(), 10, 18, false, kMist);
-  add_rows(back, field, ellipse({0, 0}, 0.34F, 0.34F), 10, 18, true, kBlue);
+  add_rows(back, field, star(), 8, 14, false, kMist);
+  add_rows(back, field, ellipse({0, 0}, 0.34F, 0.34F), 8, 14, true, kBlue);
   const Point m = field.middle();
   fill(back, quatrefoil(m, 25), kNavy);
   fill(back, quatrefoil(m, 23.4F), kWhite);
@@ -157,23 +140,34 @@ struct Band {
   Rgba colour;
 };
 
-constexpr std::array<Band, 6> kFanBands = {{{1, kIvory},
-                                            {0.9F, kCoral},
-                                            {0.66F, kIvory},
-                                            {0.56F, kBrick},
-                                            {0.34F, kPeach},
-                                            {0.16F, kBrick}}};
+constexpr std::array<Band, 3> kFanBands = {{{1, kIvory}, {0.84F, kCoral}, {0.46F, kBrick}}};
 
 void add_sun(Drawing& back, Point m) {
-  fill(back, petals(m, 24, 8, 27, 3), kIvory);
-  fill(back, circle(m, 22), kIvory);
-  fill(back, petals(m, 24, 14, 25, 1.9F), kBrick);
-  fill(back, circle(m, 17.4F), kIvory);
-  fill(back, circle(m, 16.4F), kCoral);
-  fill(back, petals(m, 12, 2, 15, 4), kIvory);
-  fill(back, petals(m, 12, 5, 13.4F, 2.2F), kBrick);
-  fill(back, circle(m, 3.6F), kBrick);
-  fill(back, petals(m, 6, 0, 3, 1.1F), kIvory);
+  fill(back, circle(m, 19.4F), kCoral);
+  fill(back, petals(m, 12, 7, 18.4F, 4.6F), kIvory);
+  fill(back, petals(m, 12, 10, 16.6F, 2.2F), kBrick);
+  fill(back, circle(m, 9.8F), kIvory);
+  fill(back, circle(m, 8.6F), kBrick);
+  fill(back, petals(m, 6, 1.4F, 7.8F, 3.4F), kIvory);
+  fill(back, circle(m, 2.2F), kCoral);
+}
+
+// The ribbon along which the fans of both halves meet.
+void add_ribbon(Drawing& back, const Field& field) {
+  const float y = field.middle().y;
+  const auto band = [&](float half) {
+    return polygon({{field.left, y - half},
+                    {field.right, y - half},
+                    {field.right, y + half},
+                    {field.left, y + half}});
+  };
+  fill(back, band(6.6F), kIvory);
+  fill(back, band(5.6F), kBrick);
+  Path beads;
+  for (float x = field.left + 3.8F; x < field.right; x += 7.24F) {
+    join(beads, polygon({{x, y - 3.4F}, {x + 2.4F, y}, {x, y + 3.4F}, {x - 2.4F, y}}));
+  }
+  fill(back, beads, kIvory);
 }
 
 // The white border, laid over the fans' ends.
@@ -185,15 +179,15 @@ void add_border(Drawing& back, float inset) {
   back.shapes.back().even_odd = true;
 }
 
-// Coral: waves of fans that rise to both ends from a sun in the middle.
+// Coral: waves of fans that rise to both ends behind a sun.
 void add_second_back(Drawing& back) {
-  const Field field{8, 13, kCardWidth - 8, back.height - 13};
+  const Field field{8, 8, kCardWidth - 8, back.height - 8};
   const Point m = field.middle();
-  const float radius = (field.right - field.left) / 8;
-  const float step = radius * 0.54F;
+  const float radius = (field.right - field.left) / 12;
+  const float step = radius * 0.58F;
   Drawing half{back.width, back.height, {}};
-  for (int row = static_cast<int>((m.y - field.top) / step); row > 0; --row) {
-    const float base = m.y - static_cast<float>(row) * step;
+  for (int row = static_cast<int>((m.y - field.top) / step) + 1; row > 0; --row) {
+    const float base = m.y - static_cast<float>(row - 1) * step;
     for (const Band& band : kFanBands) {
       fill(half, fans(field, base, radius, radius * band.size, row % 2 != 0), band.colour);
     }
@@ -201,16 +195,10 @@ void add_second_back(Drawing& back) {
   fill(back, rounded_box(5, 5, kCardWidth - 5, back.height - 5, 3), kCoral);
   append(back, half, {});
   append(back, half, half_turn(back.width, back.height));
-  for (const Band& band : kFanBands) {
-    Path discs;
-    for (float x = field.left + radius; x < field.right; x += 2 * radius) {
-      join(discs, circle({x, m.y}, radius * band.size));
-    }
-    fill(back, discs, band.colour);
-  }
+  add_ribbon(back, field);
   add_border(back, 8);
   add_frame(back, 5, 3.4F, kCoral);
-  add_frame(back, 6.2F, 0.8F, kIvory);
+  add_frame(back, 7.3F, 1.1F, kIvory);
   add_sun(back, m);
 }
 

@@ -1,12 +1,13 @@
-#include "pictures/court_parts.h"
+#include "pictures/belts.h"
 #include "pictures/faces.h"
+#include "pictures/figure.h"
 
 namespace tombrello::art {
 namespace {
 
 using namespace court;
 
-Figure half_of(Suit suit, int rank) {
+Drawing half_of(Suit suit, int rank) {
   Figure figure;
   if (rank == 13) {
     add_king(figure, suit);
@@ -15,40 +16,29 @@ Figure half_of(Suit suit, int rank) {
   } else {
     add_jack(figure, suit);
   }
-  figure.at = {};
-  figure.plain(suit_outline(suit, {28, 19.5F}, 13), suit_colour(suit));
-  return figure;
+  return figure.drawing();
 }
 
-// The belt that hides the seam; symmetric by itself.
-void add_sash(Drawing& face, Suit suit) {
-  const float slope = (kSeamRight - kSeamLeft) / (kRight - kLeft);
-  const auto band = [&](float half) {
-    return polygon({{kLeft, kSeamLeft - half},
-                    {kRight, kSeamRight - half},
-                    {kRight, kSeamRight + half},
-                    {kLeft, kSeamLeft + half}});
-  };
-  inked(face, band(4.2F), kGold, 0.75F, kInk);
-  inked(face, band(2.7F), suit_colour(suit), 0.5F, kInk);
-  Path studs;
-  for (int i = -3; i <= 3; ++i) {
-    const float x = static_cast<float>(i) * 8;
-    const Point middle{kCardWidth / 2 + x, kCardHeight / 2 + x * slope};
-    join(studs, moved(polygon({{0, -1.7F}, {2.2F, 0}, {0, 1.7F}, {-2.2F, 0}}),
-                      shift(middle.x, middle.y) * turning(-11)));
-  }
-  fill(face, studs, kGold);
+// The paper around the panel, over whatever of a figure reaches past the frame.
+void add_margin(Drawing& face) {
+  Path margin = polygon({{kLeft - 12, kTop - 4},
+                         {kRight + 12, kTop - 4},
+                         {kRight + 12, kBottom + 4},
+                         {kLeft - 12, kBottom + 4}});
+  join(margin, rounded_box(kLeft, kTop, kRight, kBottom, 1));
+  fill(face, margin, kPaper);
+  face.shapes.back().even_odd = true;
 }
 
 }  // namespace
 
 void add_court(Drawing& face, Suit suit, int rank) {
   fill(face, rounded_box(kLeft, kTop, kRight, kBottom, 1), kGround);
-  const Figure figure = half_of(suit, rank);
-  append(face, figure.drawing(), {});
-  append(face, figure.drawing(), half_turn(kCardWidth, kCardHeight));
-  add_sash(face, suit);
+  const Drawing half = half_of(suit, rank);
+  append(face, half, {});
+  append(face, half, half_turn(kCardWidth, kCardHeight));
+  add_belt(face, suit);
+  add_margin(face);
   line(face, rounded_box(kLeft, kTop, kRight, kBottom, 1), 1.5F, kInk);
   line(face, rounded_box(kLeft, kTop, kRight, kBottom, 1), 0.6F, kGold);
 }

@@ -16,6 +16,9 @@ inline constexpr Rgba kPaper{255, 253, 247, 255};
 /// The white card with its edge, as every face and back begins.
 Drawing blank_card(float height);
 
+/// The large ornate suit of an Ace.
+void add_ace(Drawing& face, Suit suit);
+
 /// A face with indices in its four corners; rank 1 (Ace) to 13 (King).
 Drawing draw_face(Suit suit, int rank);
 

@@ -5,7 +5,7 @@
 namespace tombrello::art {
 
 // Few shapes, and large: it has to read at sixteen pixels.
-Drawing draw_icon() {
+Drawing draw_icon(int pixels) {
   constexpr Rgba kNavy{24, 44, 112, 255};
   constexpr Rgba kWhite{255, 255, 255, 255};
   Drawing icon{64, 64, {}};
@@ -16,7 +16,8 @@ Drawing draw_icon() {
   felt.stops = {{0, {24, 150, 44, 255}}, {1, {0, 88, 8, 255}}};
   fill(icon, rounded_box(0.5F, 0.5F, 63.5F, 63.5F, 13), felt);
   const Affine behind = shift(25.5F, 32.5F) * turning(-15);
-  inked(icon, moved(rounded_box(-18, -25, 18, 25, 5), behind), kNavy, 3, kWhite);
+  const float rim = pixels < 24 ? 0.0F : 3.0F;  // it would only blur
+  inked(icon, moved(rounded_box(-18, -25, 18, 25, 5), behind), kNavy, rim, kWhite);
   const Affine before = shift(37.5F, 32) * turning(7);
   fill(icon, moved(rounded_box(-20.5F, -27.5F, 20.5F, 27.5F, 6.5F), before), {60, 54, 44, 255});
   fill(icon, moved(rounded_box(-19, -26, 19, 26, 5), before), kPaper);

@@ -1,239 +1,209 @@
-#include "pictures/court_parts.h"
+#include "pictures/cloth.h"
+#include "pictures/hands.h"
+#include "pictures/headgear.h"
+#include "pictures/held.h"
 
 namespace tombrello::art {
 namespace {
 
 using namespace court;
 
-constexpr Rgba kStraw{236, 186, 92, 255};
-constexpr Rgba kHazel{122, 76, 42, 255};
-constexpr Rgba kRust{190, 84, 34, 255};
-constexpr Rgba kRaven{46, 42, 58, 255};
-constexpr Rgba kWood{140, 92, 52, 255};
+constexpr Rgba kStraw{242, 196, 100, 255};
+constexpr Rgba kStrawInk{164, 106, 34, 255};
+constexpr Rgba kHazel{126, 78, 42, 255};
+constexpr Rgba kRust{196, 88, 34, 255};
+constexpr Rgba kRaven{52, 48, 66, 255};
+constexpr Rgba kSheen{132, 128, 150, 255};
 
-void add_doublet(Figure& f, Rgba cloth, Rgba left, Rgba right) {
-  f.inked("M20 82 L20 70 C23 62 31 58 41 55 L58 55 C67 57 73 61 76 66 L76 71 Z", cloth);
-  f.inked("M39 56 L50 57 L50 76.4 L37.6 79 C36 71 36.6 63 39 56 Z", left);
-  f.inked("M61 56 L50 57 L50 76.4 L61.6 74 C64 68 63.4 62 61 56 Z", right);
-}
+constexpr Look kFair{{255, 226, 202, 255},
+                     {244, 198, 170, 255},
+                     {170, 116, 44, 255},
+                     {52, 108, 168, 255},
+                     -0.3F,
+                     0.8F};
+constexpr Look kTanned{
+    {244, 206, 170, 255}, {224, 174, 134, 255}, {86, 50, 26, 255}, {92, 60, 32, 255}, 0.1F, 0.7F};
+constexpr Look kRuddy{
+    {254, 220, 194, 255}, {240, 188, 156, 255}, {156, 64, 22, 255}, {58, 116, 66, 255}, 0.1F, 0.5F};
+constexpr Look kSullen{
+    {238, 208, 184, 255}, {212, 174, 148, 255}, {40, 36, 50, 255}, {72, 78, 104, 255}, 1.2F, -0.4F};
 
-void add_buttons(Figure& f, Rgba colour) {
-  f.sprinkle(circle({0, 0}, 1.2F), {{50, 62}, {50, 66.6F}, {50, 71.2F}}, colour);
-}
-
-// A feather of a cap: its quill starts at the origin and sweeps to the upper right.
-void add_feather(Figure& f, const Affine& place, Rgba colour) {
-  const Affine before = f.at;
-  f.at = before * place;
-  f.inked("M0 0 C0 -6 4 -11 12 -12 C16 -12 18 -9 17 -7 C14 -3 6 -2 0 0 Z", colour);
+// Fair locks to the collar.
+void add_page_head(Figure& f) {
+  f.at = head_place(43.6F, 41.5F, -2, -1);
+  f.inked(
+      "M-8 -9 C-11.4 -7 -11.4 -3 -9.8 -1 C-12 1.4 -11.6 4.6 -9.6 6 C-10.8 9 -9 12 -6 11.4 L8 12 "
+      "C11.4 13.6 14.6 11 13.2 8 C15.6 5.8 15 2 12.4 1 C14.4 -2.4 13 -7 8.6 -9 Z",
+      kStraw);
+  add_neck(f, kFair);
+  add_man_turned(f, kFair);
+  f.inked(
+      "M-7.7 -3.4 C-8.6 -6 -8 -9 -5 -9.6 L7.8 -9.6 C11 -8 12 -4 10.6 -1.4 C12 1 11.4 4 9 4.6 "
+      "C8.4 2 8.8 0 7.6 -2 C6.4 -2.6 5.6 -4 5.6 -5.6 C3.4 -4 0.8 -4.4 -0.4 -6.4 "
+      "C-1.8 -4.2 -4.2 -4.2 -5.4 -6 C-5.6 -4.6 -6.4 -3.8 -7.7 -3.4 Z",
+      kStraw);
   f.line(
-      "M-1 1 C3 -5 8 -8.6 15 -9 M4 -4 L3.6 -7 M7 -6.4 L7.4 -9.6 M6 -5.6 L10 -4.6 M10 -7.8 L13 -6.4",
-      0.5F, kInk);
-  f.at = before;
-}
-
-void add_letter(Figure& f) {
-  f.at = shift(66.4F, 47) * turning(10);
-  f.inked("M-8 -5.6 L8 -5.6 L8 5.6 L-8 5.6 Z", {255, 255, 250, 255});
-  f.line("M-8 -5.6 L0 1 L8 -5.6 M-8 5.6 L-2 -0.6 M8 5.6 L2 -0.6", 0.55F, kInk);
-  f.plain(suit_outline(Suit::hearts, {0, 0.8F}, 6), kCrimson);
+      "M-9.6 -4.4 C-8.6 -3.6 -9 -2.2 -9.8 -1 M-10.2 2.6 C-9 3 -8.6 4.8 -9.6 6 M-8 8 Q-6.6 9 -7 "
+      "10.4 "
+      "M12.4 1 C11.4 3 12.6 4.4 11.4 6.4 M13.2 8 C11.6 8.4 11.8 10 10.4 10.6 "
+      "M10 -6 C8.4 -5.4 9.4 -3.6 8.4 -2.6 M3 -8.4 C3.4 -7 4.8 -6.4 5.6 -5.6 M-3 -8.4 Q-2 -6.6 "
+      "-0.4 -6.4",
+      0.5F, kStrawInk);
+  add_page_cap(f);
   f.at = {};
 }
 
 // Hearts: the fair messenger, with a letter.
 void add_jack_of_hearts(Figure& f) {
-  add_doublet(f, kNavy, kCrimson, kCrimson);
-  f.line("M43 58 L41.6 78 M46.6 58 L46 77 M57 58 L58 74.6 M53.6 58 L54 75.4", 1, kGold);
-  add_buttons(f, kGold);
-  f.sprinkle(suit_outline(Suit::hearts, {0, 0}, 3.6F), {{25, 71}, {31, 66}, {31, 74}, {70, 65}},
-             kGold);
-  f.at = head_place(48.5F, 38, -3, -1);
-  const std::vector<Point> curls{{-9, -4},   {-10.4F, 0.6F}, {-9.6F, 5.4F}, {-7.8F, 10},
-                                 {9.4F, -4}, {11, 0.6F},     {11, 5.6F},    {9, 10.4F}};
-  for (const Point& curl : curls) f.inked(circle(curl, 3.4F), kStraw);
-  add_neck(f);
-  add_face(f, {{166, 116, 46, 255}, {52, 104, 160, 255}});
-  for (const Point& curl :
-       {Point{-6, -7.4F}, Point{-1.4F, -8.6F}, Point{3.4F, -8.4F}, Point{7.6F, -6.6F}}) {
-    f.inked(circle(curl, 2.8F), kStraw);
+  add_shoulders(f, moved(suit_outline(Suit::hearts, {0, 0}, 4), scaling(0.9F, 1)), kNavy, kGold);
+  f.inked("M38 59.4 L57 59.4 C58.6 65 58.6 70 57.4 75 L38 79 C36.6 72 36.6 66 38 59.4 Z", kCrimson);
+  f.line("M42 61 L41.4 78 M54 61 L54.4 75.4", 1.1F, kGold);
+  f.line("M47.4 60 L47.4 76.6", 0.5F, kInk);
+  f.studs(1.1F, {{47.4F, 66}, {47.4F, 70.2F}}, kGold);
+  add_page_head(f);
+  f.inked("M35 60 C37.6 57 41 57 46.4 61.4 C51.4 57 55 56.8 58 59.6 L55 67 L46.4 62.6 L38.4 67 Z",
+          kCream);
+  f.inked("M53.6 76 C53 71.6 54.6 67.4 57 64.6 L67 66.4 C68.6 68.8 68.6 71.4 67.6 73.4 Z",
+          kCrimson);
+  f.line("M57 75 C57 71.6 58.4 68.8 60 66.6 M62.6 74 C63 71.6 63.4 69.8 63.6 67.6", 0.9F, kGold);
+  add_hand(f, Hand::pinch, hand_place(66, 55, 0, -1), kFair, kCream, add_letter);
+}
+
+void add_ruff(Figure& f, float x, float y) {
+  Path frill;
+  for (int i = -3; i <= 3; ++i) {
+    const float t = static_cast<float>(i);
+    join(frill, ellipse({x + t * 4, y - t * t * 0.22F}, 2.7F, 3.4F));
   }
-  f.line(
-      "M-10.8 1 Q-9.6 -0.6 -8.8 1.4 M-9.8 6 Q-8.6 4.4 -7.6 6.2 M11.6 1 Q10.4 -0.6 9.4 1.4 "
-      "M11.6 6 Q10.4 4.4 9.4 6.2 M-6.6 -6.8 Q-5.4 -8 -4.8 -6.4 M2.8 -8 Q4 -9.4 4.8 -7.6",
-      0.5F, {150, 98, 34, 255});
-  f.inked(
-      "M-10.4 -9 C-14 -14 -12 -20 -3 -21.6 C6 -23 14 -19.6 12.6 -13.6 C12 -11 10.6 -9.4 9.6 "
-      "-8.6 Q0 -12 -10.4 -9 Z",
-      kCrimson);
-  f.inked("M-10.6 -8 Q0 -11.4 10 -8 L9.8 -11 Q0 -14.4 -10.6 -11 Z", kNavy);
-  add_feather(f, shift(-8, -12) * scaling(0.86F, 0.86F) * turning(-22), kCream);
-  f.inked(circle({-8, -11.4F}, 1.7F), kGold);
-  f.at = {};
-  f.inked("M38 56 C42 53 45 53.6 49.6 58 C54 53.6 57 53 61 56 L58.6 63 L49.6 59 L41 63 Z", kCream);
-  add_letter(f);
-  add_arm(f, {67.6F, 56.6F}, 1, kNavy, kGold);
-}
-
-void add_pennon(Figure& f) {
-  f.inked("M64.6 20 L66.8 20 L67.4 72 L64.6 72 Z", kWood);
-  f.inked("M65.7 11.6 C67.6 14.6 67.6 17 65.7 20.4 C63.8 17 63.8 14.6 65.7 11.6 Z", kSteel);
-  f.inked("M66.8 21.4 C69.6 20 72 23 75.4 21.6 L73 26.6 L75.4 32.6 C72 34 69.6 31 66.8 32.4 Z",
-          kTeal);
-  f.plain(suit_outline(Suit::diamonds, {70, 26.8F}, 6), kGold);
-}
-
-void add_brimmed_hat(Figure& f) {
-  f.inked("M-8.6 -9 C-10 -18 -5 -22 1 -21.6 C8 -21 10 -16 9 -9 Z", kVermilion);
-  f.inked(
-      "M-15 -9.6 C-13 -14.4 -6 -13.4 0 -12.4 C6 -13.4 11.6 -14.6 13.6 -11 C11 -6.6 5 -7 0 -7.4 "
-      "C-6 -6.8 -12 -5.8 -15 -9.6 Z",
-      kTeal);
-  add_feather(f, shift(5, -12.4F) * scaling(-0.84F, 0.84F) * turning(6), kGold);
-  f.inked(suit_outline(Suit::diamonds, {5.4F, -11.8F}, 5), kCream);
-}
-
-void add_ruff(Figure& f) {
-  f.inked(
-      "M37 57 C38 53.6 42 52.6 44 54.6 C46 53 48.4 54 49.6 56.4 C51 54 53.4 53 55.4 54.6 "
-      "C58 52.6 61.6 54 62.4 57 C60 61 57.4 60.6 56 59.4 C54 62 51 61.6 49.6 60 "
-      "C48 62 45 62 43.4 59.6 C41.4 61.4 38.6 60.4 37 57 Z",
-      kCream);
+  f.inked(frill, kCream);
+  f.plain(moved(frill, shift(x, y) * scaling(0.985F, 0.86F) * shift(-x, -y)), kCream);
+  Path folds;
+  for (int i = -3; i <= 3; ++i) {
+    const float t = static_cast<float>(i);
+    folds.move({x + t * 4, y - t * t * 0.22F - 1.6F});
+    folds.line({x + t * 4, y - t * t * 0.22F + 1.8F});
+  }
+  f.line(folds, 0.45F, {150, 146, 150, 255});
 }
 
 // Diamonds: the dashing herald, with his pennon.
 void add_jack_of_diamonds(Figure& f) {
-  add_pennon(f);
-  add_doublet(f, kVermilion, kTeal, kTeal);
-  f.sprinkle(suit_outline(Suit::diamonds, {0, 0}, 6),
-             {{43.4F, 66}, {43, 74}, {56.6F, 65}, {57, 71.6F}}, kGold);
-  f.line("M24 66 L23 80 M28.6 62 L28 80 M33.4 59.4 L33 79 M67 60 L67.6 72 M72 62.4 L72.4 71", 1,
-         kGold);
-  add_buttons(f, kCream);
-  f.at = head_place(49, 38.5F, 3, 1);
+  add_shoulders(f, motif::lozenge(), kVermilion, kGold);
+  f.inked("M33 60 L45 59 L45 77.4 L31.4 79.8 C30 73 30.4 66 33 60 Z", kTeal);
+  f.inked("M45 59 L57 60 C58.6 65 58.6 70 57.6 74.8 L45 77.4 Z", kCream);
+  f.fine(moved(motif::lozenge(), shift(38.6F, 70) * scaling(2, 2)), kGold);
+  f.fine(moved(motif::lozenge(), shift(51.4F, 69) * scaling(2, 2)), kVermilion);
+  const Affine head = head_place(44.5F, 41.5F, 2, 1);
+  f.at = head;
   f.inked(
-      "M-8.6 -8 C-12 -2 -12 6 -11 12 C-8 14.6 -4 14 -3 12 L5 12 C7 14.4 11 14 12.4 11 "
-      "C13 4 12 -4 9 -8 Z",
+      "M-7 -8 C-10.4 -2 -9.4 5 -9.8 10 C-8 13.4 -5 13 -3 11.6 L5 12 C7 14.6 11.6 14.6 13.6 11 "
+      "C12 9 13.4 2 12.4 -2 C12 -5 10.6 -7 8.6 -8 Z",
       kHazel);
-  f.line("M-10 0 Q-10.4 6 -9.4 11.6 M10.4 -2 Q11.4 5 10.6 11.4 M8.8 2 Q9.6 7 8.8 12", 0.5F, kInk);
-  add_neck(f);
-  add_face(f, {{84, 48, 26, 255}, {84, 58, 34, 255}});
-  f.plain(
-      "M-1.9 6 C-3.6 5.6 -5.4 7.4 -8.2 5.4 C-7 8.2 -3.6 8.6 -1.9 7.2 C0 8.6 3.6 8.2 5 5.2 "
-      "C2 7.4 0 5.6 -1.9 6 Z",
-      {84, 48, 26, 255});
+  add_neck(f, kTanned);
+  add_man_turned(f, kTanned);
   f.inked(
-      "M-8 -1 C-8.6 -6 -8 -9 0 -10 C8 -9 9 -6 8.6 0 C7.4 -3 7 -5 6.6 -6.6 Q0 -4.8 -6.4 -6.4 "
-      "Q-7.4 -4 -8 -1 Z",
+      "M-2 6.2 C-3.8 5.6 -5.4 7.6 -8.6 5 C-7.8 8.6 -4 9.4 -2 7.6 C0.2 9.4 4.2 8.8 5.6 4.8 "
+      "C2 7.6 0 5.8 -2 6.2 Z",
       kHazel);
+  f.plain("M-3.2 10.6 Q-2 10 -0.8 10.6 Q-0.8 12.4 -2 13.6 Q-3.4 12.4 -3.2 10.6 Z", kHazel);
+  f.inked(
+      "M5.8 -8 C6.4 -5 7.4 -3.4 8 0 C8.6 4 7.6 8 8.6 12.4 C11.6 13 14 11 14.4 8.6 C12.8 7 14 1 "
+      "12.6 "
+      "-3 C12 -6 11 -7.4 9 -8 Z",
+      kHazel);
+  f.line("M9.6 -4 C11 1 9.6 6 11 11 M-8.6 -3 C-9.4 2 -8.6 6 -9 9", 0.5F, kInk);
   add_brimmed_hat(f);
   f.at = {};
-  add_ruff(f);
-  add_arm(f, {66, 61.4F}, 1, kVermilion, kTeal);
+  add_ruff(f, 45, 61);
+  f.inked("M52.4 76.4 C52.4 72 54 69 56 66.8 L65 69.6 C66.2 71.4 66 72.8 65.4 73.8 Z", kTeal);
+  add_hand(f, Hand::fist, hand_place(64, 57, 0, -1), kTanned, kCream, add_pennon);
 }
 
 void add_quiver(Figure& f) {
-  f.at = shift(31, 58) * turning(-16);
-  f.line("M-3 -4 L-3.4 -17 M0.4 -4 L0.4 -20 M3.6 -4 L4.4 -16", 1, kWood);
-  f.inked("M-5.2 -20 L-3.4 -18 L-1.8 -20.4 L-2 -13.4 L-3.4 -11.6 L-4.8 -13.4 Z", kCrimson);
-  f.inked("M-1.4 -23 L0.4 -21 L2.2 -23 L2.2 -16 L0.4 -14 L-1.4 -16 Z", kCream);
-  f.inked("M2.8 -19 L4.4 -17.4 L6.2 -19 L5.8 -12.4 L4.2 -10.6 L2.8 -12.4 Z", kCrimson);
-  f.inked("M-5.4 -6 L6 -6 L5 12 L-4 12 Z", kWood);
-  f.inked("M-5.6 -6.4 L6.2 -6.4 L6 -3 L-5.4 -3 Z", kGold);
+  f.at = shift(29, 57) * turning(-6);
+  f.line("M-3 -4 L-3.4 -19 M0.4 -4 L0.4 -22 M3.6 -4 L4.4 -18", 1, kWood);
+  f.inked(
+      "M-5.2 -22 L-3.4 -20 L-1.8 -22.4 L-2 -15.4 L-3.4 -13.6 L-4.8 -15.4 Z "
+      "M2.8 -21 L4.4 -19.4 L6.2 -21 L5.8 -14.4 L4.2 -12.6 L2.8 -14.4 Z",
+      kCrimson);
+  f.inked("M-1.4 -26 L0.4 -24 L2.2 -26 L2.2 -19 L0.4 -17 L-1.4 -19 Z", kCream);
+  f.inked("M-5.4 -6 L6 -6 L5 18 L-4 18 Z", kWood);
+  f.inked("M-5.7 -7 L6.3 -7 L6 -3 L-5.4 -3 Z", kGold);
   f.at = {};
 }
 
-void add_bow(Figure& f) {
-  f.line("M64.8 17 L66.6 73", 0.6F, kInk);
+// A fringe and freckles under the cap.
+void add_archer_head(Figure& f) {
+  f.at = head_place(44, 41.5F, 0, 1);
+  f.inked("M-9 -8 C-11.6 -2 -11.4 4 -10.6 9 C-6 13.4 6 13.4 10.6 9 C11.4 4 11.6 -2 9 -8 Z", kRust);
+  add_neck(f, kRuddy);
+  add_man_facing(f, kRuddy);
+  f.sprinkle(circle({0, 0}, 0.42F),
+             {{-6, 3.2F},
+              {-4.6F, 4},
+              {-5.6F, 5.6F},
+              {-3.4F, 5.2F},
+              {6, 3.2F},
+              {4.6F, 4},
+              {5.6F, 5.6F},
+              {3.4F, 5.2F}},
+             {190, 106, 62, 255});
   f.inked(
-      "M64 15.6 C72.6 24 76 40 73.6 58 C73 64 71.4 69 69.4 72.4 L67.8 72 C69.4 68 70.6 64 71 58 "
-      "C73 42 70.6 27 63.6 17.4 Z",
-      kWood);
+      "M-8.4 3.4 C-9.4 -2 -9.6 -6 -8 -9 L8 -9 C9.6 -6 9.4 -2 8.4 3.4 C7.6 1 7.4 -2 6.4 -4.6 "
+      "C4.6 -3.6 2.6 -4 1.6 -5.6 C0.2 -3.6 -2.6 -3.2 -4 -5 C-4.6 -3.8 -5.6 -3.4 -6.6 -3.6 "
+      "C-7.4 -1.6 -7.6 1 -8.4 3.4 Z",
+      kRust);
+  add_hunter_cap(f);
+  f.at = {};
 }
 
-void add_hood(Figure& f) {
-  f.inked(
-      "M-8.4 2 C-10 8 -8 14 -3 17.6 L6 17.6 C10.4 13 11 7 10 2 C9.4 -3 9 -5 8.2 -7 "
-      "C9 0 8.6 8 5.6 11.6 C3 14.4 -1 14.6 -3.6 12.6 C-6 10.4 -7.8 6 -8.4 2 Z",
-      kCrimson);
-  f.inked(
-      "M-12.6 -5.6 C-7 -9 -3 -9.6 1 -9.4 C6 -9.4 9.6 -8 12.4 -5.4 C14.6 -9 12 -16 6 -20 "
-      "C1 -23 -4 -20.6 -7 -16.6 C-9.6 -13 -12 -9.6 -12.6 -5.6 Z",
-      kTeal);
-  f.inked(
-      "M-14.6 -4.8 C-8 -12 2 -13 13.4 -5 C12.4 -3.4 11.4 -3.2 10 -4 C2 -9.4 -6 -8.4 -12 -3.4 "
-      "C-13.6 -2.8 -14.6 -3.4 -14.6 -4.8 Z",
-      {0, 82, 88, 255});
-  add_feather(f, shift(3.4F, -9.6F) * scaling(0.86F, 0.9F) * turning(-30), kCrimson);
-}
-
-// Clubs: the archer of the woods, hooded and freckled.
+// Clubs: the archer of the woods, freckled, looking straight ahead, with his bow.
 void add_jack_of_clubs(Figure& f) {
   add_quiver(f);
-  add_bow(f);
-  add_doublet(f, kTeal, kTeal, kTeal);
-  f.inked("M39 57 L43.6 57 L62.4 70.4 L62 74 L58.4 74.8 Z", kWood);
-  f.sprinkle(circle({0, 0}, 0.8F), {{44, 60.4F}, {49, 64.6F}, {54, 68.8F}, {58.6F, 72.4F}}, kGold);
+  add_shoulders(f, motif::sprig(), kTeal, {92, 176, 140, 255});
+  f.inked("M34 59 L39 59 L58.6 73 L57.6 75 L54 75.6 Z", kWood);
+  f.studs(0.8F, {{41, 64}, {45, 66.8F}, {49, 69.6F}}, kGold);
+  add_archer_head(f);
   f.inked(
-      "M31 62 C33 56 40 53 44 52 L56 52 C60 53 66 56 68.6 61 L64 60.6 L62 65 L58 61.6 L55 66.4 "
-      "L50.6 62 L46.6 67 L43 62.4 L39.4 66.4 L36.6 62 Z",
+      "M26 66 C28 61 33 58 38 56.4 C41 60.4 47 60.4 50 56.4 C55 58 60 61 62 65 L57.6 63.8 "
+      "L54.6 68.6 L50.4 64.8 L46.4 70.4 L42 65.2 L37.6 70.6 L34 65.6 L30 69.8 Z",
       kCrimson);
-  f.at = head_place(50, 38, 3, -1);
-  add_face(f, {{150, 62, 22, 255}, {56, 108, 62, 255}});
-  f.sprinkle(circle({0, 0}, 0.4F),
-             {{-6, 3.2F}, {-4.8F, 4.2F}, {-6, 5.4F}, {2.4F, 3.4F}, {4, 3}, {3.4F, 4.8F}},
-             {196, 116, 70, 255});
-  f.inked(
-      "M-7.8 1 C-8 -4 -7 -8 -4 -9.4 L6 -9.4 C8.4 -6 8.6 -2 8.4 3 C7.2 0 6.8 -3 6 -5.4 "
-      "C4 -4 2 -4.6 0.6 -6 C-1 -4 -3.4 -4 -5 -5.4 C-6.4 -3.6 -7.2 -1.4 -7.8 1 Z",
-      kRust);
-  add_hood(f);
-  f.at = {};
-  add_arm(f, {72, 57.4F}, 1, kTeal, kGold);
+  f.line("M38.6 59 C41.4 62.6 46.6 62.6 49.4 59", 0.5F, kInk);
+  f.inked("M54.6 75.8 C54.8 66 56 58 59.4 50.6 L66.4 53.6 C66.4 62 67.4 68 67 73.6 Z", kCream);
+  f.line("M58.4 74 C58.6 67 59.4 61 61 55.4 M62.8 73.6 C63 67.6 63.4 62 64 57.4", 0.5F, kInk);
+  add_hand(f, Hand::fist, hand_place(71.2F, 40.4F, 4, -1), kRuddy, kGold, add_bow);
 }
 
-void add_halberd(Figure& f) {
-  f.inked("M67.6 26 L69.8 26 L70.2 72 L67.2 72 Z", kWood);
-  f.inked("M68.7 11.6 L70.6 19 L69.8 27 L67.6 27 L66.8 19 Z", kSteel);
-  f.inked("M67.6 25 C65.4 25 63.6 24 62.4 22.4 C61.6 26 61.6 31 63.2 35 C64.4 33 66 32 67.6 32 Z",
-          kSteel);
-  f.inked("M69.8 25.6 L75 28.4 L69.8 31 Z", kSteel);
-  f.inked("M66.8 33 L70.6 33 L70.8 35.6 L66.6 35.6 Z", kGold);
-}
-
-// Spades: the sullen guardsman, with a halberd.
+// Spades: the sullen guardsman in profile, with a halberd.
 void add_jack_of_spades(Figure& f) {
-  add_halberd(f);
-  add_doublet(f, kNavy, kCrimson, kGold);
-  f.line("M40.6 60 L47.4 64 M39.4 66 L47.4 70.6 M38.4 72 L46 76.4", 0.9F, kGold);
-  f.line("M59.6 60 L52.6 64 M61.4 65.4 L52.6 70.4 M61.8 71.4 L53.6 75.4", 0.9F, kCrimson);
-  add_buttons(f, kCream);
-  f.inked("M36 57 C29 58 22.6 63 21.4 70 C26 74.4 33 74 37 70 C38.6 65 38.4 60 36 57 Z", kNavy);
+  add_shoulders(f, motif::star(), kNavy, kSteel);
+  f.inked("M40 59.4 L59 59.4 C60.6 65 60.6 70 59.6 74.6 L39.6 78.4 C38 72 38.4 66 40 59.4 Z",
+          kCrimson);
+  f.line("M41.4 63 L50 68 L59.4 62 M40 69.4 L50 74.4 L60 68.6", 1.5F, kGold);
+  f.line("M50 61 L50 76", 0.5F, kInk);
+  f.inked("M62 59.4 C69 60 74.4 63.6 75.6 68.4 C72 72 66 72.4 61.4 70 C60 66 60.4 62.4 62 59.4 Z",
+          kNavy);
+  f.plain("M64.4 60.6 Q70 63.6 72.4 70 L69.4 70.8 Q68 65 63.4 61.6 Z", kCrimson);
+  const Affine head = head_place(54.6F, 41.5F, 2, -1);
+  f.at = head;
+  add_man_aside(f, kSullen);
   f.plain(
-      "M34 59.4 Q27.6 63 25.4 71 L28 72.4 Q29.6 65 35.4 60.6 Z M36 62 Q32.6 66 32.4 72.4 "
-      "L35 71.2 Q35.2 66.6 36.8 63.4 Z",
-      kCrimson);
-  f.at = head_place(49, 38, 0, 1);
-  f.inked("M-9 -8 C-12 -2 -12 5 -11.4 9 L-5 11 L6 11 L12 9 C12.4 4 12 -4 9 -8 Z", kRaven);
-  add_neck(f);
-  add_face(f, {kRaven, {60, 60, 80, 255}, false, 1.1F});
-  f.plain("M-4 10.6 Q-2 9.8 0.4 10.6 Q0.8 13.6 -1.8 15.4 Q-4.4 13.6 -4 10.6 Z", kRaven);
-  f.inked(
-      "M-8.2 2 C-9 -4 -8.6 -8 0 -9.6 C8.6 -8.6 9.6 -4 9 4 L7 4 C7 0 6.8 -2 6.2 -4.6 L-6.8 -4.2 "
-      "C-7.4 -2 -7.6 0 -7.6 2 Z",
+      "M-6.2 11.4 C-5 11 -4.2 11.6 -4 12.6 C-4.2 14.2 -5.2 15.4 -7 16 C-7.4 14.4 -7.2 12.6 "
+      "-6.2 11.4 Z",
       kRaven);
   f.inked(
-      "M-11.6 -8 C-15 -13 -12 -18.4 -3 -19 C6 -19.6 16.6 -19 15 -12 C14 -9 12 -7.6 10 -7 "
-      "Q0 -10.6 -11.6 -8 Z",
-      kNavy);
-  f.inked("M-11 -7 Q0 -10 10.4 -6.6 L10.4 -9.6 Q0 -13 -11 -10 Z", kGold);
-  add_feather(f, shift(8, -10.6F) * scaling(-0.96F, 0.9F) * turning(0), kCrimson);
-  f.inked(circle({8, -10}, 1.8F), kCream);
+      "M-4.8 -8.4 C-3.4 -5 -1 -4.4 0.8 -3.4 C2.6 -2 2 1 2.4 3.6 C2.8 6.4 3.6 9 6 10.6 "
+      "C9 12.6 13.4 12.4 15 9.4 C13.2 9.2 13.4 6 13.4 2 C13.4 -3 12 -7.4 9 -9.4 Z",
+      kRaven);
+  f.line("M5 -5 C6.4 -1 5.4 3 7.4 8 M9 -5 C10.4 -1 9.4 4 11 9.4", 0.5F, kSheen);
+  add_guard_cap(f);
   f.at = {};
-  f.inked(
-      "M38 58 C38.6 54 43 52.6 49.6 56.6 C56 52.6 60.6 54 61.4 58 L57.6 61.4 L49.6 58.4 "
-      "L42 61.4 Z",
-      kCream);
-  add_arm(f, {68.7F, 61}, 1, kNavy, kCrimson);
+  constexpr std::string_view kGorget =
+      "M38.6 62.4 C39 59 41 57.4 43 57.2 L56 58 C58.6 58.6 60 60.6 60.6 62.6 "
+      "C58 66 53.6 67.4 49.6 67.4 C45.4 67.4 41.2 65.6 38.6 62.4 Z";
+  add_mail(f, kGorget, {kGorget});
+  f.inked("M31.4 79.8 C31.2 76.8 32 74 33.6 71.4 L43 73 C44 74.6 44.2 76.2 43.4 77.6 Z", kCrimson);
+  add_hand(f, Hand::fist, hand_place(27, 61.5F, 0, 1), kSullen, kGold, add_halberd);
 }
 
 }  // namespace

@@ -1,258 +1,207 @@
-#include "pictures/court_parts.h"
+#include "pictures/cloth.h"
+#include "pictures/hands.h"
+#include "pictures/headgear.h"
+#include "pictures/held.h"
 
 namespace tombrello::art {
 namespace {
 
 using namespace court;
 
-constexpr Rgba kWhiteHair{232, 232, 236, 255};
-constexpr Rgba kAuburn{176, 84, 36, 255};
-constexpr Rgba kBrown{104, 62, 36, 255};
-constexpr Rgba kRaven{46, 42, 58, 255};
+constexpr Rgba kWhiteHair{236, 236, 240, 255};
+constexpr Rgba kGreyInk{150, 150, 164, 255};
+constexpr Rgba kAuburn{180, 84, 34, 255};
+constexpr Rgba kBrown{110, 66, 38, 255};
+constexpr Rgba kRaven{52, 48, 66, 255};
 
-const Path& tail() {
-  static const Path path = outline("M0 -1.4 C1 0 0.9 1.2 0 1.3 C-0.9 1.2 -1 0 0 -1.4 Z");
-  return path;
-}
+constexpr Look kOld{{253, 224, 200, 255},
+                    {238, 194, 166, 255},
+                    {206, 206, 214, 255},
+                    {44, 96, 158, 255},
+                    -0.3F,
+                    0.4F};
+constexpr Look kShrewd{
+    {246, 208, 172, 255}, {226, 176, 136, 255}, {140, 58, 22, 255}, {64, 104, 56, 255}, 0.7F, 0};
+constexpr Look kBroad{
+    {250, 214, 182, 255}, {232, 184, 148, 255}, {80, 46, 26, 255}, {98, 62, 32, 255}, 0.3F, 0.3F};
+constexpr Look kWarrior{
+    {240, 204, 174, 255}, {214, 170, 138, 255}, {36, 32, 46, 255}, {70, 88, 112, 255}, 1.5F, 0};
 
-void add_robe(Figure& f, Rgba robe) {
-  f.inked("M20 82 L20 67 C24 60 32 56 41 54 L58 54 C66 56 72 59 76 65 L76 71 Z", robe);
-}
-
-void add_beard(Figure& f, std::string_view path, std::string_view strands, Rgba hair) {
-  f.inked(path, hair);
-  f.line(strands, 0.5F, kInk);
-  f.line("M-4.2 9.2 Q-2 10.4 1 9", 1.1F, {178, 52, 56, 255});
-  add_moustache(f, hair);
-}
-
-void add_sceptre(Figure& f) {
-  f.inked("M67.4 24 L69.6 24 L70 72 L67 72 Z", kGold);
-  f.inked(suit_outline(Suit::hearts, {68.5F, 19.5F}, 12), kCrimson);
-  f.inked(ellipse({68.5F, 27}, 2.8F, 1.6F), kGold);
-  f.plain("M65.4 17.4 Q65.6 15.8 67 15.6 Q66 16.8 65.4 17.4 Z", kCream);
-}
-
-void add_open_crown(Figure& f) {
+// White and curled all around.
+void add_old_head(Figure& f) {
+  f.at = head_place(50, 41, 0, 1);
   f.inked(
-      "M-9.9 -11.2 L-12.4 -20.4 L-7.2 -16 L-5.6 -22.4 L-2.2 -16.8 L0 -24 L2.2 -16.8 "
-      "L5.6 -22.4 L7.2 -16 L12.4 -20.4 L9.9 -11.2 Q0 -8.6 -9.9 -11.2 Z",
-      kGold);
-  f.inked("M-9.4 -7.4 Q0 -4.6 9.4 -7.4 L9.9 -11.4 Q0 -8.6 -9.9 -11.4 Z", kOldGold);
-  f.sprinkle(circle({0, 0}, 1.2F), {{-6, -8.4F}, {0, -7.6F}, {6, -8.4F}}, kCrimson);
-  f.inked(circle({-12.4F, -21}, 1.1F), kCream);
-  f.inked(circle({12.4F, -21}, 1.1F), kCream);
-  f.inked(circle({0, -24}, 1.2F), kCrimson);
-}
-
-void add_ermine_collar(Figure& f) {
+      "M-8 -9 C-12.4 -6 -12.6 -1 -11 2 C-13.4 4 -13.4 8 -11.4 9.6 C-12 12.4 -9 14 -7 13 L8 13 "
+      "C10.4 14.4 13.4 12.6 12.4 9.6 C14.4 7.6 14 4 12 2 C13.6 -2 12.6 -6 8.6 -9 Z",
+      kWhiteHair);
+  add_man_turned(f, kOld);
+  f.line("M5.8 -0.4 L7 -1.2 M5.9 0.6 L7.2 0.7 M-6.6 2.4 Q-5.4 3.1 -4.2 2.6 M0.2 2.7 Q2 3.4 3.8 2.6",
+         0.4F, {190, 130, 104, 255});
   f.inked(
-      "M32 58 C36 52 42 51 45 53 Q50 57 55 53 C58 51 64 52 68 57 C66 65 58 69 50 69 "
-      "C42 69 35 66 32 58 Z",
-      kCream);
-  f.sprinkle(tail(),
-             {{37, 58}, {42, 62}, {40, 57}, {47, 65.5F}, {54, 65.5F}, {60, 62}, {62, 57}, {58, 58}},
-             kInk);
+      "M-7.9 2.6 C-7 5.6 -6.2 6.6 -4.4 6.2 L2.6 6.2 C5.6 6 7.6 4 8.6 0 C11.4 3 12 8 10 11 "
+      "C11 15 8 18 5.4 17.6 C4.4 21 0.4 22.4 -1.8 20 C-4.4 21.6 -7 19.6 -6.8 16.6 "
+      "C-9.4 15.6 -9.8 12 -8.4 10.2 C-9.6 7.6 -9.2 4.6 -7.9 2.6 Z",
+      kWhiteHair);
+  f.line(
+      "M-5.6 12 C-6.4 14.4 -5.4 16 -4 15.8 M-1.8 13 C-2.8 15.8 -1.8 18 0.2 17.6 "
+      "M2.6 12.6 C2.4 15 3.6 16.4 5.4 15 M6.8 8.4 C7.8 10.2 7.4 12 6 12.4 "
+      "M-10.6 -3 Q-9.4 -0.6 -10.6 2 M-11 6 Q-9.8 8 -10.8 10 M11 -3 Q10 -0.6 11.2 2 "
+      "M11.6 6 Q10.4 8 11.4 10",
+      0.5F, kGreyInk);
+  f.plain("M-4.4 9.4 Q-2 11.8 1 9.2 Q-1.6 9 -4.4 9.4 Z", {178, 52, 56, 255});
+  f.inked(
+      "M-2.2 6 C-4 5.2 -7.2 6.6 -9 10.6 C-6.4 10.4 -3.8 9.8 -2.1 8.2 C0.2 9.8 3.6 10.6 6.8 10.2 "
+      "C4.6 6.6 0.8 5 -2.2 6 Z",
+      kWhiteHair);
+  add_lily_crown(f);
+  f.at = {};
 }
 
 // Hearts: the old king, gentle, in ermine, with the sceptre.
 void add_king_of_hearts(Figure& f) {
-  add_sceptre(f);
-  add_robe(f, kCrimson);
-  f.inked("M43 54 L57 54 L59 75 L41 79 Z", kNavy);
-  f.sprinkle(polygon({{0, -1.6F}, {1.2F, 0}, {0, 1.6F}, {-1.2F, 0}}),
-             {{25, 69}, {31, 66}, {25, 76}, {31, 73}, {37, 70}, {37, 76}, {63, 69}, {72, 66}},
-             kGold);
-  f.at = head_place(49, 38, 0, 1);
+  add_shoulders(f, motif::pomegranate(), kCrimson, kGold);
+  add_ermine(f,
+             "M34.4 62.6 C37 58 42 56 46 56 L54 56 C59 56 65 57.6 69 61 C68 66.6 60 71 50 71 "
+             "C42 71 35.6 68 34.4 62.6 Z");
+  add_old_head(f);
+  f.inked("M32 80 C32.6 76.4 33.6 74 35 71.4 L43 73.6 C43.4 75.4 43.2 76.6 42.6 77.8 Z", kNavy);
+  add_hand(f, Hand::fist, hand_place(27, 61.5F, 0, 1), kOld, kCream, add_sceptre);
+}
+
+// Seen from the side, with a pointed beard.
+void add_merchant_head(Figure& f) {
+  f.at = head_place(44.6F, 41, 0, 1);
+  add_man_aside(f, kShrewd);
+  f.inked("M-4 15.4 C0 18.6 6 18 10.6 14.6 L12.6 19.6 C7 23.6 0 24 -5.4 20.6 Z", kTeal);
+  f.line("M-4.6 19.2 C0 22 6.6 21.6 11.8 18", 0.9F, kGold);
   f.inked(
-      "M-9 -8 C-13 -4 -13 2 -11 5 C-14 8 -13 13 -9 14 L9 14 C13 13 14 8 11 5 C13 2 13 -4 9 -8 Z",
-      kWhiteHair);
-  add_neck(f);
-  f.at = {};
-  add_ermine_collar(f);
-  f.at = head_place(49, 38, 0, 1);
-  add_face(f, {{150, 150, 158, 255}, {44, 84, 140, 255}});
-  f.line("M5.6 -0.6 L7 -1.6 M5.8 0.4 L7.4 0.4 M-6 2 Q-5 2.6 -3.8 2.2 M0.4 2.4 Q2 3 3.8 2.4", 0.45F,
-         {190, 130, 104, 255});
-  add_beard(f,
-            "M-8.2 1 C-7.6 5 -6.4 6.4 -4 6.2 L2.6 6.2 C6 6 7.6 4 8.6 0 C10.4 4 11 9 8.6 12 "
-            "C9 16 6 18.4 3.6 18.2 C2 21.4 -3 21.4 -4.4 18.4 C-7.4 18.2 -9.6 15 -8.6 11.6 "
-            "C-10.4 8 -9.6 4 -8.2 1 Z",
-            "M-6 12 Q-6 15 -4 15.6 M-1.6 13 Q-2 17 0 18.4 M3 12.6 Q3.4 15.6 5.6 15 "
-            "M6.6 8 Q7.4 10 6.4 11.4 M-7.4 7 Q-8 9 -7 10.4",
-            kWhiteHair);
+      "M6.4 2.6 C5.8 5 5 6.4 2.8 6.8 C0.8 7 -1.4 7.6 -3.6 9 C-4.8 9.8 -6 10 -7 9.6 "
+      "C-7.6 11 -8.6 12.6 -9.4 15 C-10 18 -9.6 21 -8.4 23.6 C-6.8 20.6 -3.6 18.6 0 17 "
+      "C4.6 15 8.4 12 9.4 7 Z",
+      kAuburn);
   f.line(
-      "M-11 -2 Q-9.4 0 -10.6 3 M-11.4 8 Q-9.6 10 -10.6 12.4 M11 -2 Q9.6 0 10.6 3 "
-      "M11.4 8 Q10 10 10.8 12.4",
+      "M-7.6 13 C-8 16 -7.6 18.4 -7 20 M-5 11.6 C-5.4 14.6 -5.4 16.6 -5.2 18.4 "
+      "M-2 10.4 C-2.4 13 -2.4 14.6 -2.2 16.4 M1.4 9.4 C1.4 11.6 1.4 13.4 1.8 14.8 "
+      "M4.8 8 C5 9.6 5 11 5.2 12.4",
       0.5F, kInk);
-  add_open_crown(f);
-  f.at = {};
-  add_arm(f, {68.5F, 62}, 1, kCrimson, kCream);
-}
-
-void add_axe(Figure& f) {
-  f.inked("M66.4 13 L69 13 L69.2 72 L66.2 72 Z", {140, 92, 52, 255});
-  f.inked("M66.4 17 C63 17 61.4 15 60.6 13 C58.4 19 58.4 27 60.8 33 C61.6 30 63.4 28 66.4 28 Z",
-          kSteel);
-  f.inked("M69 18 L74.6 15.4 C73.6 20 73.6 24 74.6 29 L69 26.4 Z", kSteel);
-  f.line("M60.9 17 C60 21 60 26 61 30", 0.6F, kCream);
-}
-
-void add_closed_crown(Figure& f) {
-  f.inked("M-9 -10 C-13 -20 -6 -22.4 0 -19.6 C6 -22.4 13 -20 9 -10 Z", kCrimson);
   f.inked(
-      "M-1.2 -8 L-1.2 -20 L1.2 -20 L1.2 -8 Z M-9.4 -10 C-13 -17 -8 -22 -1 -20.4 L-1 -18.6 "
-      "C-6.4 -20 -9.6 -17 -7.4 -9.6 Z M9.4 -10 C13 -17 8 -22 1 -20.4 L1 -18.6 "
-      "C6.4 -20 9.6 -17 7.4 -9.6 Z",
-      kGold);
-  f.inked("M-9.4 -6.8 Q0 -4 9.4 -6.8 L9.8 -11 Q0 -8.4 -9.8 -11 Z", kGold);
-  f.sprinkle(polygon({{0, -1.4F}, {1.7F, 0}, {0, 1.4F}, {-1.7F, 0}}),
-             {{-6, -8}, {0, -7.2F}, {6, -8}}, kTeal);
+      "M-7.2 5.8 C-5.6 4.8 -3.6 6.2 -2 7.4 C-0.6 8.4 0.8 8.4 2 7.6 C1.4 10 -1 10.8 -3.4 9.8 "
+      "C-5 9 -6.6 8.2 -8.4 8.4 C-8.8 7.4 -8 6.4 -7.2 5.8 Z",
+      kAuburn);
   f.inked(
-      "M-0.8 -20 L-0.8 -22.6 L-2.4 -22.6 L-2.4 -24 L-0.8 -24 L-0.8 -25.4 L0.8 -25.4 L0.8 -24 "
-      "L2.4 -24 L2.4 -22.6 L0.8 -22.6 L0.8 -20 Z",
-      kGold);
-}
-
-// Diamonds: the merchant king, auburn and shrewd, with the axe.
-void add_king_of_diamonds(Figure& f) {
-  add_axe(f);
-  add_robe(f, kVermilion);
-  f.sprinkle(outline("M0 -2.4 Q0.5 -0.5 2.4 0 Q0.5 0.5 0 2.4 Q-0.5 0.5 -2.4 0 Q-0.5 -0.5 0 -2.4 Z"),
-             {{25, 72}, {31, 68}, {31, 76}, {37, 72}, {63, 70}, {72, 67}}, kGold);
-  f.inked("M44 54 L56 54 L58 75.4 L42 78.4 Z", kCream);
-  f.line("M44 60 L56.4 58 M43.6 66 L57 63.6 M43 72 L57.6 69.4", 1.2F, kTeal);
-  f.inked("M41 53 C36 54 31 57 29 60 L40 80 L45 78 L42 64 Z", kTeal);
-  f.inked("M58 53 C64 54 69 57 71 60 L60 76 L55.6 76 L57.6 64 Z", kTeal);
-  f.line("M33 59 L42 76 M67 59 L59 73", 0.9F, kGold);
-  f.at = head_place(49, 38, 0, -1);
-  f.inked("M-8 -8 C-11 0 -12 8 -10 13 C-7 15 7 15 10 13 C13 8 12 -2 9 -8 Z", kAuburn);
-  f.line("M9.4 -2 Q11 4 9.6 11 M-8.8 2 Q-10.4 7 -9 12", 0.5F, kInk);
-  add_neck(f);
-  add_face(f, {{140, 60, 24, 255}, {58, 96, 52, 255}, false, 0.7F});
-  add_beard(f,
-            "M-8 2 C-7 6 -6 6.6 -4 6.4 L2.6 6.4 C6 6 7.4 4 8.4 1 C9 7 7 12 4 15 "
-            "C2 17.4 -0.6 20 -2.2 24 C-3.6 20 -5.4 17 -6.6 14 C-8.2 10 -8.6 6 -8 2 Z",
-            "M-5 12 Q-4 16 -2.4 19 M-1.6 12.6 L-2 18 M2.6 12 Q1.6 15 0 17", kAuburn);
-  f.line("M-8.2 9.8 C-10 10.6 -11 9 -10 7.6 M5.8 9.8 C8 10.8 9.4 9 8.4 7.4", 1.3F, kAuburn);
-  add_closed_crown(f);
-  f.at = {};
-  add_arm(f, {67.7F, 61}, 1, kVermilion, kGold);
-}
-
-void add_trefoil_crown(Figure& f) {
-  f.inked(
-      "M-10 -11 L-11.4 -16 Q-14 -17 -12.6 -19.4 Q-12.8 -22 -10.6 -21.8 Q-8.4 -22 -8.6 -19.4 "
-      "Q-7.2 -17 -9 -16 L-5 -14 L-1.4 -17 Q-4 -17.6 -3 -20.4 Q-3 -23.8 0 -24 "
-      "Q3 -23.8 3 -20.4 Q4 -17.6 1.4 -17 L5 -14 L9 -16 Q7.2 -17 8.6 -19.4 Q8.4 -22 10.6 -21.8 "
-      "Q12.8 -22 12.6 -19.4 Q14 -17 11.4 -16 L10 -11 Q0 -8.4 -10 -11 Z",
-      kGold);
-  f.inked("M-9.4 -7 Q0 -4.2 9.4 -7 L10 -11 Q0 -8.4 -10 -11 Z", kCrimson);
-  f.sprinkle(circle({0, 0}, 1),
-             {{-7, -8.4F}, {-3.5F, -7.7F}, {0, -7.4F}, {3.5F, -7.7F}, {7, -8.4F}}, kCream);
-}
-
-void add_orb(Figure& f) {
-  f.inked(circle({67.5F, 52}, 6.8F), kNavy);
-  f.inked("M60.8 50.4 Q67.5 53.4 74.2 50.4 L74.2 53 Q67.5 56 60.8 53 Z", kGold);
-  f.inked("M66.2 45.4 L66.2 51.6 L68.8 51.6 L68.8 45.4 Z", kGold);
-  f.inked(
-      "M66.5 45.6 L66.5 41.6 L64 41.6 L64 39.4 L66.5 39.4 L66.5 36.6 L68.5 36.6 L68.5 39.4 "
-      "L71 39.4 L71 41.6 L68.5 41.6 L68.5 45.6 Z",
-      kGold);
-}
-
-// Clubs: the builder king, brown and broad, with the orb.
-void add_king_of_clubs(Figure& f) {
-  add_robe(f, kTeal);
-  f.inked("M42 54 L58 54 L61 74.6 L39 79 Z", kGold);
+      "M-4.6 -9 C-3 -5.6 -0.4 -5 1.6 -4.6 C2.6 -3 2.4 -1.4 3 -0.4 C4 -2.8 7 -2.6 6.8 0.6 "
+      "C6.6 3 6.6 5 7.6 7 C6.6 11 7.6 15 9.6 18 C13.4 17 14.6 12 13.6 7 C13 3 13 -4 9.4 -9 Z",
+      kAuburn);
   f.line(
-      "M43 60 L59 74 M41.4 67 L50 76.4 M49 54.6 L60 65 M57.6 56 L41 72 M59.6 63 L45 77 "
-      "M50 55 L42 63",
-      0.5F, kOldGold);
-  f.inked("M42 53 C36 54 30 57 27 61 C30 68 33 74 34 80 L41 78.4 C42 70 42.6 62 42 53 Z", kCream);
-  f.inked("M58 53 C64 54 70 57 73 61 C70 66 68 70 67 73.4 L59.4 75 C58 68 57.4 60 58 53 Z", kCream);
-  f.sprinkle(tail(),
-             {{32, 61},
-              {37, 58},
-              {36.4F, 65},
-              {38.6F, 71.6F},
-              {36.6F, 76},
-              {63, 58},
-              {68, 61},
-              {63.4F, 64},
-              {62, 70}},
-             kInk);
-  f.at = head_place(50, 38, 0, 1);
-  f.inked("M-9 -8 C-12 0 -12 6 -11 11 C-9 14 9 14 11 11 C12 6 12 0 9 -8 Z", kBrown);
-  f.line("M-10.4 0 Q-9 6 -10 11 M10.4 0 Q9 6 10 11", 0.5F, kInk);
-  add_neck(f);
-  add_face(f, {{70, 40, 24, 255}, {90, 56, 30, 255}, false, 0.4F});
-  add_beard(f,
-            "M-8.2 1 C-7.4 5 -6.4 6.4 -4 6.2 L2.6 6.2 C6 6 7.6 4 8.6 0 C10 6 10 14 8.6 20 "
-            "C6 22.6 3 20.6 0 22.6 C-3 20.6 -6 22.6 -8.4 20 C-9.8 14 -9.6 6 -8.2 1 Z",
-            "M-6 12 L-6 19 M-3 13 L-3.2 19 M0 13.4 L0 20 M3.2 13 L3.4 19 M6.2 11 L6.4 19", kBrown);
+      "M9.6 -5 C11 0 9.4 6 11.4 12 M6.6 -5.4 C8.8 -3 8.6 1 8.6 5 C8.4 9 9.4 13 10.4 15.6 "
+      "M11.6 0 C12.6 4 11.8 8 12.6 12",
+      0.5F, kInk);
+  f.at = f.at * shift(1.6F, 0);
+  add_imperial_crown(f);
+  f.at = {};
+}
+
+// Diamonds: the merchant king in profile, auburn and shrewd, with the axe.
+void add_king_of_diamonds(Figure& f) {
+  add_shoulders(f, motif::lozenge(), kVermilion, kGold);
+  f.inked("M42 57 L56 57 L58.6 74.6 L39.6 78.4 Z", kCream);
+  f.line("M41 62.6 L57 60.8 M40.6 67.6 L57.6 65.2 M40 72.8 L58.2 70", 1.3F, kTeal);
+  f.inked(
+      "M43 56.4 C36 58 31 60 28.6 63 C31 69 34.6 75 37.4 79.2 L43.6 77.8 C40.4 71 40.4 63 "
+      "43 56.4 Z",
+      kTeal);
+  f.inked(
+      "M54 56 C62 57.4 66 59.4 68 62 C66.4 66.6 64 71 61.4 74.4 L55.8 75.6 C57.4 69 57 62 "
+      "54 56 Z",
+      kTeal);
+  f.line("M33.4 62.6 C35.4 68 38 73.6 40.2 78.2 M64.4 61.2 C63.4 66 61 71 58.6 74.6", 0.9F, kGold);
+  f.line("M39 60.4 C39.6 68 44 73.4 48.6 74 C53.6 73 57.6 67 58.4 59.6", 1.6F, kOldGold);
+  f.line("M39 60.4 C39.6 68 44 73.4 48.6 74 C53.6 73 57.6 67 58.4 59.6", 0.7F, kGold);
+  add_merchant_head(f);
+  f.inked("M54 76 C54.6 72.6 56 69.6 57.6 66.6 L66 70.4 C66.4 72 66 73.2 65.2 74.2 Z", kVermilion);
+  add_hand(f, Hand::fist, hand_place(64.7F, 56.5F, 0, -1), kShrewd, kGold, add_axe);
+}
+
+// Clubs: the builder king, brown and broad, looking straight ahead, with the orb.
+void add_king_of_clubs(Figure& f) {
+  add_shoulders(f, motif::sprig(), kTeal, kGold);
+  add_ermine(f,
+             "M29.6 64 C34 58.4 41 57 47 57 L53 57 C59 57 67 58 72.6 63 C71.4 68 62 71.4 51 71.6 "
+             "C40 71.6 31.4 69 29.6 64 Z");
+  f.at = head_place(51, 41, 0, 1);
+  f.inked(
+      "M-8 -9 C-12 -6 -12.6 0 -12 4 C-12.4 8 -13.6 10 -12.6 13 C-10.6 14.6 -8.6 13.6 -7 12 L7 12 "
+      "C8.6 13.6 10.6 14.6 12.6 13 C13.6 10 12.4 8 12 4 C12.6 0 12 -6 8 -9 Z",
+      kBrown);
+  f.line("M-10.6 -2 C-9.6 3 -11.6 7 -10.8 12 M10.6 -2 C9.6 3 11.6 7 10.8 12", 0.5F, kInk);
+  add_man_facing(f, kBroad);
+  f.inked(
+      "M-8.2 1.6 C-7.6 5 -6.2 7 -4 6.6 L4 6.6 C6.2 7 7.6 5 8.2 1.6 C9.4 6 9 11 6.4 14 "
+      "C4.4 16.4 2 17.4 0 17.4 C-2 17.4 -4.4 16.4 -6.4 14 C-9 11 -9.4 6 -8.2 1.6 Z",
+      kBrown);
+  f.line(
+      "M-5.4 11 C-5.4 12.8 -4.4 14 -3.4 14.6 M-1.6 13 L-1.4 16 M1.8 13 L1.5 16 "
+      "M5.4 11 C5.4 12.8 4.4 14 3.4 14.6 M-7.2 7 C-7.4 8.6 -7 9.8 -6.4 10.8 "
+      "M7.2 7 C7.4 8.6 7 9.8 6.4 10.8",
+      0.5F, kInk);
+  f.plain("M-2.8 9.6 Q0 11.8 2.8 9.6 Q0 9 -2.8 9.6 Z", {178, 52, 56, 255});
+  f.inked(
+      "M0 6.6 C-2.4 5 -6 6.6 -8.6 6 C-7.6 9.6 -3.4 10.8 0 8.6 C3.4 10.8 7.6 9.6 8.6 6 "
+      "C6 6.6 2.4 5 0 6.6 Z",
+      kBrown);
   add_trefoil_crown(f);
   f.at = {};
-  add_orb(f);
-  add_arm(f, {67.5F, 61.4F}, 1, kTeal, kGold);
+  f.line("M37 59.6 C39 65.6 45 68.6 51 68.6 C57 68.6 63.4 65.4 66 59.6", 1.9F, kInk);
+  f.line("M37 59.6 C39 65.6 45 68.6 51 68.6 C57 68.6 63.4 65.4 66 59.6", 1.1F, kGold);
+  f.inked(circle({51, 68.6F}, 2.6F), kGold);
+  f.inked("M24 81.4 C24 77 24.4 73.6 25.2 71.4 L35.6 71.4 C36.6 74 36.8 77 36.4 79 Z", kTeal);
+  add_hand(f, Hand::cradle, hand_place(30, 61, 0, 1), kBroad, kGold, add_orb);
 }
 
-void add_armour(Figure& f) {
-  f.inked("M37 55 C44 53 56 53 63 55 C65 62 64 69 61.4 74.6 L38 79 C35.6 71 35.6 62 37 55 Z",
-          kSteel);
-  f.line("M50 55 L50 76.6 M38 68 Q50 72 62.6 66.4 M37 62 Q50 66 64 60.6", 0.5F, kInk);
-  f.inked("M36 54 C30 54 24 58 22.6 64 C28 67 34 66 38.6 63 Z", kSteel);
-  f.inked("M63 54 C69 54 74 57 75.6 62.6 C70 66 66 65 61.6 63 Z", kSteel);
-  f.line("M25 64 C27 60 31 57.6 36 57 M73.4 63 C72 60 68 57.6 63.6 57", 0.5F, kInk);
-  f.sprinkle(circle({0, 0}, 0.8F),
-             {{27, 63.6F},
-              {31, 63.8F},
-              {35, 63},
-              {65, 63},
-              {69, 63.4F},
-              {46, 58},
-              {54, 58},
-              {46, 73.4F},
-              {54, 72}},
-             kGold);
+void add_pauldrons(Figure& f) {
+  f.inked("M36 60 C29 59 23 63 21 69.6 C26.6 72.4 34 72 38.6 68.4 Z", kSteel);
+  f.inked("M61 60 C68 58.6 73 61 75.6 66 C72 69.4 65 70.4 60 67.4 Z", kSteel);
+  f.line(
+      "M22.4 70 C24.6 65.4 30 62.6 36.4 62.6 M24.8 71 C27.4 67.6 32 65.6 37.2 65.4 "
+      "M74.6 66.4 C72 63.6 67 62 61 62.6 M72.8 68 C70 65.6 66 64.6 60.6 65",
+      0.5F, kInk);
+  f.plain("M35.6 60.8 C30.4 60.6 25.6 63 23.2 66.4 C27 63.6 31 62.2 35.6 61.8 Z", kWhite);
 }
 
-void add_crowned_helmet(Figure& f) {
-  f.inked("M-9 -9 C-10 -17 -4 -22 0 -24.6 C4 -22 10 -17 9 -9 Z", kSteel);
-  f.line("M0 -24 L0 -12 M-5 -12 Q-5.4 -17 -2 -21", 0.6F, kCream);
-  f.inked(
-      "M-9.8 -10.6 L-12 -17.6 L-7.6 -14.6 L-5.6 -19 L-2.6 -14.2 L0 -19.4 L2.6 -14.2 "
-      "L5.6 -19 L7.6 -14.6 L12 -17.6 L9.8 -10.6 Q0 -8 -9.8 -10.6 Z",
-      kGold);
-  f.inked("M-9.4 -6.6 Q0 -3.8 9.4 -6.6 L9.9 -10.8 Q0 -8 -9.9 -10.8 Z", kOldGold);
-  f.sprinkle(circle({0, 0}, 1.1F), {{-6, -7.8F}, {0, -7}, {6, -7.8F}}, kNavy);
-}
-
-// Spades: the warrior king, raven-black, in steel, with the sword.
+// Spades: the warrior king, raven-black, in mail and steel, with the sword.
 void add_king_of_spades(Figure& f) {
-  f.inked("M66.6 52 L66.6 18 L68.5 12.4 L70.4 18 L70.4 52 Z", kSteel);
-  f.line("M68.5 18 L68.5 50", 0.7F, kCream);
-  add_robe(f, kNavy);
-  add_armour(f);
-  f.at = head_place(49.5F, 38, 0, -1);
-  f.inked("M-8 -8 C-13 0 -13 8 -12 16 C-8 19 8 19 12 16 C13 8 13 0 9 -8 Z", kRaven);
-  add_neck(f);
-  add_face(f, {kRaven, {70, 74, 90, 255}, false, 1.5F});
-  f.line("M3.4 -7 L5 -2.4 M5.4 1.4 L6 4", 0.6F, {196, 92, 84, 255});
-  add_beard(f,
-            "M-8.2 2 C-7.4 5 -6.4 6.4 -4 6.2 L2.6 6.2 C6 6 7.6 4 8.4 1 C9.4 8 8.4 14 7.4 18 "
-            "C6.6 21 5.4 23 3.4 25 C3 21 1.6 18 0 16.4 C-1.8 18 -3.4 21 -4 25 "
-            "C-6 23 -7.2 20 -7.8 17 C-8.8 12 -9 7 -8.2 2 Z",
-            "M-5.6 12 Q-6 17 -4.6 21 M-2.8 13 Q-3.4 16 -4 18 M2.8 13 Q3.4 16 3.6 18 "
-            "M5.8 12 Q6 17 4.6 21",
-            {62, 58, 78, 255});
-  add_crowned_helmet(f);
+  add_shoulders(f, motif::star(), kNavy, kGold);
+  f.inked("M39 58 L59 58 L60.6 74 L37 78.6 Z", kCrimson);
+  f.inked("M45.6 58 L51.6 58 L52 75.6 L45 77.2 Z", kCream);
+  add_pauldrons(f);
+  f.at = head_place(48, 41, 0, -1);
+  add_mail(f,
+           "M-8 -10 C-11.4 -5 -11.4 3 -11 8 C-11.4 13 -14 16 -14.4 20 C-9 25.4 9 25.4 14.4 20 "
+           "C14 16 11.4 13 11 8 C11.4 3 11.4 -5 8 -10 Z",
+           {"M-8.2 -8 C-11.2 -4 -11 3 -10.8 8 C-11.2 13 -13.6 16 -14.2 20 C-11 22.8 -7 23.8 -3 24 "
+            "L-4 19 C-6 15 -5.4 4 -5 -8 Z",
+            "M8.2 -8 C11.2 -4 11 3 10.8 8 C11.2 13 13.6 16 14.2 20 C11 22.8 7 23.8 1 24 "
+            "L2.6 20 C6 16 5.4 4 5 -8 Z"});
+  add_man_turned(f, kWarrior);
+  f.inked(
+      "M-7.9 3 C-7 5.6 -6 6.6 -4.2 6.2 L2.6 6.2 C5.6 6 7.4 4 8.3 1 C9.4 7 8.4 12 7 15 "
+      "C6 18 4 20 1.6 22.6 C1 20.6 0 19 -1.4 18 C-2.6 19.4 -3.4 20.8 -3.8 22.4 "
+      "C-6 20 -7.2 17 -7.6 14 C-8.6 10 -8.8 6 -7.9 3 Z",
+      kRaven);
+  f.line(
+      "M-5.6 11.6 Q-6 15 -4.8 18 M-2.9 12.6 Q-3.4 15.4 -3.4 17.4 M1.4 12.6 Q2 15 1.6 18 "
+      "M4.6 11.6 Q5 15 4 17.4 M7 7.4 Q7.4 10 6.6 12.4",
+      0.5F, {132, 128, 150, 255});
+  f.plain("M-4.4 9.5 Q-2 11.4 0.8 9.3 Q-1.6 9 -4.4 9.5 Z", {170, 50, 54, 255});
+  f.inked(
+      "M-2.2 6 C-4 5.2 -7 6.6 -8.8 10.8 C-6.2 10.4 -3.6 9.8 -2.1 8.2 C0 9.8 3.4 10.6 6.2 10.6 "
+      "C4.4 6.6 0.8 5 -2.2 6 Z",
+      kRaven);
+  add_helmet(f);
   f.at = {};
-  f.inked("M61.4 51 L75.2 51 L75.2 53.6 L61.4 53.6 Z", kGold);
-  f.inked("M67.2 53.6 L69.8 53.6 L69.8 68 L67.2 68 Z", {120, 74, 42, 255});
-  f.inked(circle({68.5F, 68.6F}, 2.2F), kGold);
-  add_arm(f, {68.5F, 60.6F}, 1, kCrimson, kSteel);
+  add_mail(f, "M55 75.4 C55.4 71.6 56.8 69 59.4 66.6 L68.4 70 C69 71.6 68.6 72.6 68 73.4 Z",
+           {"M55 75.4 C55.4 71.6 56.8 69 59.4 66.6 L68.4 70 C69 71.6 68.6 72.6 68 73.4 Z"});
+  add_hand(f, Hand::fist, hand_place(68.5F, 58.6F, 0, -1), kWarrior, kSteel, add_sword);
 }
 
 }  // namespace

@@ -50,10 +50,12 @@ void add_frame(Drawing& picture) {
 }
 
 void add_shadow(Drawing& picture, const Affine& place) {
-  for (const float spread : {6.0F, 4.6F, 3.2F, 1.8F, 0.4F}) {
+  constexpr int kLayers = 10;
+  for (int layer = kLayers; layer > 0; --layer) {
+    const float spread = 0.8F * static_cast<float>(layer) - 1;
     const Path blot =
         rounded_box(-spread, -spread, kCardWidth + spread, kCardHeight + spread, 6 + spread);
-    fill(picture, moved(blot, shift(0, 5) * place), Rgba{0, 10, 4, 36});
+    fill(picture, moved(blot, shift(0, 5) * place), Rgba{0, 10, 4, 17});
   }
 }
 
@@ -77,7 +79,7 @@ void add_fan(Drawing& picture) {
   const Path foot = polygon({{0, 424}, {kWidth, 424}, {kWidth, kHeight}, {0, kHeight}});
   fill(picture, foot,
        gradient(Paint::Kind::linear, {0, 424}, {0, kHeight},
-                {{0, {0, 20, 8, 0}}, {1, {0, 20, 8, 110}}}));
+                {{0, {0, 20, 8, 0}}, {1, {0, 20, 8, 55}}}));
 }
 
 // Bends a line of letters to an arch whose middle stays.

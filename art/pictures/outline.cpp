@@ -142,25 +142,31 @@ Path circle(Point centre, float radius) {
 }
 
 Path ellipse(Point centre, float rx, float ry) {
-  return rounded_box(centre.x - rx, centre.y - ry, centre.x + rx, centre.y + ry, -1);
+  const float kx = rx * kQuarter;
+  const float ky = ry * kQuarter;
+  const auto [x, y] = centre;
+  Path path;
+  path.move({x, y - ry});
+  path.cubic({x + kx, y - ry}, {x + rx, y - ky}, {x + rx, y});
+  path.cubic({x + rx, y + ky}, {x + kx, y + ry}, {x, y + ry});
+  path.cubic({x - kx, y + ry}, {x - rx, y + ky}, {x - rx, y});
+  path.cubic({x - rx, y - ky}, {x - kx, y - ry}, {x, y - ry});
+  path.close();
+  return path;
 }
 
 Path rounded_box(float left, float top, float right, float bottom, float radius) {
-  // A negative radius rounds the box to an ellipse.
-  const float rx = radius < 0 ? (right - left) / 2 : radius;
-  const float ry = radius < 0 ? (bottom - top) / 2 : radius;
-  const float kx = rx * (1 - kQuarter);
-  const float ky = ry * (1 - kQuarter);
+  const float k = radius * (1 - kQuarter);
   Path path;
-  path.move({left + rx, top});
-  path.line({right - rx, top});
-  path.cubic({right - kx, top}, {right, top + ky}, {right, top + ry});
-  path.line({right, bottom - ry});
-  path.cubic({right, bottom - ky}, {right - kx, bottom}, {right - rx, bottom});
-  path.line({left + rx, bottom});
-  path.cubic({left + kx, bottom}, {left, bottom - ky}, {left, bottom - ry});
-  path.line({left, top + ry});
-  path.cubic({left, top + ky}, {left + kx, top}, {left + rx, top});
+  path.move({left + radius, top});
+  path.line({right - radius, top});
+  path.cubic({right - k, top}, {right, top + k}, {right, top + radius});
+  path.line({right, bottom - radius});
+  path.cubic({right, bottom - k}, {right - k, bottom}, {right - radius, bottom});
+  path.line({left + radius, bottom});
+  path.cubic({left + k, bottom}, {left, bottom - k}, {left, bottom - radius});
+  path.line({left, top + radius});
+  path.cubic({left, top + k}, {left + k, top}, {left + radius, top});
   path.close();
   return path;
 }
@@ -182,6 +188,22 @@ Path loop(const std::vector<Point>& points) {
   }
   path.close();
   return path;
+}
+
+Path petals(Point middle, int count, float inner, float outer, float width) {
+  Path all;
+  const float swell = inner + (outer - inner) * 0.6F;
+  for (int i = 0; i < count; ++i) {
+    Path petal;
+    petal.points.reserve(8);
+    petal.move({0, -inner});
+    petal.cubic({-width, -swell}, {-width, -outer}, {0, -outer});
+    petal.cubic({width, -outer}, {width, -swell}, {0, -inner});
+    petal.close();
+    const float angle = 360.0F * static_cast<float>(i) / static_cast<float>(count);
+    join(all, moved(petal, shift(middle.x, middle.y) * turning(angle)));
+  }
+  return all;
 }
 
 Path moved(const Path& path, const Affine& by) {

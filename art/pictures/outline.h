@@ -38,6 +38,8 @@ Path rounded_box(float left, float top, float right, float bottom, float radius)
 Path polygon(const std::vector<Point>& corners);
 /// A closed smooth curve through the points.
 Path loop(const std::vector<Point>& points);
+/// Petals around a point, from radius `inner` to `outer`.
+Path petals(Point middle, int count, float inner, float outer, float width);
 
 Path moved(const Path& path, const Affine& by);
 void join(Path& onto, const Path& more);

@@ -11,7 +11,8 @@ namespace tombrello::art {
 /// The drawing's width and height are the picture's told size in pixels (96 by 153 and so on).
 Drawing draw_picture(Picture picture);
 
-/// The program's icon, a square drawing of 64 by 64 units.
-Drawing draw_icon();
+/// The program's icon, a square drawing of 64 by 64 units, as it is to be shown at so many
+/// pixels: small ones have fewer lines.
+Drawing draw_icon(int pixels = 64);
 
 }  // namespace tombrello::art

@@ -51,9 +51,9 @@ Path unit_outline(Suit suit) {
 Rgba suit_colour(Suit suit) {
   switch (suit) {
     case Suit::hearts:
-      return {180, 0, 46, 255};
+      return {164, 0, 46, 255};
     case Suit::diamonds:
-      return {230, 64, 20, 255};
+      return {214, 56, 12, 255};
     case Suit::clubs:
       return {0, 84, 104, 255};
     case Suit::spades:

@@ -49,7 +49,10 @@ std::string long_name(int card) {
 
 std::string short_names(Cards cards) {
   std::string names;
-  for (const int card : cards) names += (names.empty() ? "" : " ") + short_name(card);
+  for (const int card : cards) {
+    if (!names.empty()) names += ' ';
+    names += short_name(card);
+  }
   return names;
 }
 

@@ -62,7 +62,7 @@ Desktop::Application::Application(int& argc, char** argv) : QApplication(argc, a
   std::setlocale(LC_NUMERIC, "C");
 }
 
-Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon)
+Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const IconSource& icon)
     : messages_(before_start()),
       application_(argc, argv),
       window_(std::move(pictures), icon),

@@ -19,7 +19,7 @@ inline char32_t capital(char32_t letter) {
 /// made before any thread is started:
 ///
 ///     int main(int argc, char** argv) {
-///       Desktop desktop(argc, argv, draw_picture, draw_icon());
+///       Desktop desktop(argc, argv, draw_picture, draw_icon);
 ///       Program program({desktop.window(), desktop.timer(), ...});
 ///       desktop.set_media_events(&program);
 ///       program.run();
@@ -29,8 +29,9 @@ inline char32_t capital(char32_t letter) {
 /// ends the process with status 1.
 class Desktop {
  public:
-  /// `pictures` answers the vectors of any picture; `icon` is the program's.
-  Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& icon);
+  /// `pictures` answers the vectors of any picture; `icon` the program's at
+  /// any number of pixels.
+  Desktop(int& argc, char** argv, PictureSource pictures, const IconSource& icon);
 
   Window& window() { return window_; }
   Timer& timer() { return timer_; }

@@ -26,10 +26,10 @@ constexpr int kBoxWidth = 220;
 constexpr auto kBoxFrame = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
-QIcon icon_of(const Drawing& drawing) {
+QIcon icon_of(const IconSource& drawing_for) {
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-    icon.addPixmap(QPixmap::fromImage(rasterise(drawing, size, size)));
+    icon.addPixmap(QPixmap::fromImage(rasterise(drawing_for(size), size, size)));
   }
   return icon;
 }
@@ -69,7 +69,7 @@ void DesktopWindow::Frame::stay_on_screen() {
   move(free.topLeft());
 }
 
-DesktopWindow::DesktopWindow(PictureSource pictures, const Drawing& icon)
+DesktopWindow::DesktopWindow(PictureSource pictures, const IconSource& icon)
     : table_(new TableWidget(std::move(pictures), relay_)),
       line_(new ChronicleLine(nullptr)),
       overlay_(*table_, relay_) {

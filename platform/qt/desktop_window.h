@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QMessageBox>
+#include <functional>
 #include <string>
 
 #include "qt/chronicle_line.h"
@@ -14,10 +15,13 @@
 
 namespace tombrello::qt {
 
+/// Answers the program's icon as it is to be shown at so many pixels.
+using IconSource = std::function<Drawing(int)>;
+
 /// The program's window on a Qt desktop. Needs the application object as long as it lives.
 class DesktopWindow : public Window {
  public:
-  DesktopWindow(PictureSource pictures, const Drawing& icon);
+  DesktopWindow(PictureSource pictures, const IconSource& icon);
 
   void set_events(WindowEvents* events) override { relay_.set_target(events); }
   Surface& surface() override { return table_->surface(); }

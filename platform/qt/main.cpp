@@ -5,7 +5,7 @@
 
 int main(int argc, char** argv) {
   using namespace tombrello;
-  qt::Desktop desktop(argc, argv, art::draw_picture, art::draw_icon());
+  qt::Desktop desktop(argc, argv, art::draw_picture, art::draw_icon);
   SystemClock clock;
   Program program({desktop.window(), desktop.timer(), desktop.archive(), clock, desktop.wave(),
                    desktop.sequencer(), desktop.beeper(), qt::capital});

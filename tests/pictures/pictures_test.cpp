@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QXmlStreamReader>
 #include <algorithm>
 #include <cmath>
 #include <set>
 #include <tuple>
 #include <vector>
 
+#include "pictures/svg.h"
 #include "qt/rasteriser.h"
 
 namespace tombrello {
@@ -194,6 +196,27 @@ TEST(Pictures, TheOpeningPictureCoversItsFrame) {
     for (int x = 0; x < 320; ++x) clear += qAlpha(image.pixel(x, y)) < 255 ? 1 : 0;
   }
   EXPECT_EQ(clear, 0);
+}
+
+TEST(Pictures, AsSvgKeepTheirShapesAndGradients) {
+  const Drawing opening = draw_picture({PictureSet::quadro, 0});
+  const std::string text = to_svg(opening);
+  QXmlStreamReader reader(QByteArray::fromStdString(text));
+  std::size_t paths = 0;
+  QStringList painted;
+  QStringList gradients;
+  while (!reader.atEnd()) {
+    if (reader.readNext() != QXmlStreamReader::StartElement) continue;
+    if (reader.name() == u"path") ++paths;
+    const QString fill = reader.attributes().value("fill").toString();
+    if (fill.startsWith("url(#")) painted.push_back(fill.sliced(5).chopped(1));
+    const QString id = reader.attributes().value("id").toString();
+    if (!id.isEmpty()) gradients.push_back(id);
+  }
+  EXPECT_FALSE(reader.hasError()) << qPrintable(reader.errorString());
+  EXPECT_EQ(paths, opening.shapes.size());
+  EXPECT_EQ(painted, gradients);
+  EXPECT_GE(gradients.size(), 3);
 }
 
 }  // namespace

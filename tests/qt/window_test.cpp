@@ -91,7 +91,7 @@ class WindowTest : public testing::Test {
   }
 
   Listener events_;
-  DesktopWindow window_{sample_picture, sample_picture({})};
+  DesktopWindow window_{sample_picture, [](int) { return sample_picture({}); }};
 };
 
 TEST_F(WindowTest, ShowsTheSurfaceSharpAfterAnyResize) {

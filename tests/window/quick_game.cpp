@@ -182,7 +182,7 @@ extern "C" const char* __lsan_default_suppressions() {
 int main(int argc, char** argv) {
   using namespace tombrello;
   using namespace tombrello::qt;
-  Desktop desktop(argc, argv, art::draw_picture, art::draw_icon());
+  Desktop desktop(argc, argv, art::draw_picture, art::draw_icon);
   if (argc != 5) return 2;
   const std::filesystem::path folder = argv[1];
   DiskArchive archive(folder, folder / "user");

@@ -106,7 +106,7 @@ QImage opening_sheet(int width, int height) {
 }
 
 QImage icon(int size) {
-  return rasterise(tombrello::art::draw_icon(), size, size);
+  return rasterise(tombrello::art::draw_icon(size), size, size);
 }
 
 QImage icon_sheet() {
