@@ -1,5 +1,6 @@
 #include "qt/desktop.h"
 
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <clocale>
 #include <cstdio>
@@ -30,6 +31,17 @@ QtMessageHandler watch_start() {
   return qInstallMessageHandler(at_start);
 }
 
+// A program that was installed finds its sounds and tunes in a data folder of its own; one that
+// carries them beside itself is at home there, whatever else is installed.
+bool is_installed() {
+  const QString beside = QCoreApplication::applicationDirPath() + "/sounds";
+  return TOMBRELLO_DATA[0] != '\0' && !QFileInfo(beside).isDir();
+}
+
+QString program_folder() {
+  return is_installed() ? TOMBRELLO_DATA : QCoreApplication::applicationDirPath();
+}
+
 QString user_folder() {
   return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
@@ -49,10 +61,10 @@ Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& 
       application_(argc, argv),
       window_(std::move(pictures), icon),
       timer_(window_.events()),
-      archive_(QCoreApplication::applicationDirPath(), user_folder()),
+      archive_(program_folder(), user_folder(),
+               is_installed() ? DiskArchive::Keep::with_user : DiskArchive::Keep::beside_program),
       audio_(
-          QCoreApplication::applicationDirPath().toStdString(), [this] { wake_for_audio(); },
-          QApplication::beep) {
+          program_folder().toStdString(), [this] { wake_for_audio(); }, QApplication::beep) {
   qInstallMessageHandler(messages_);
   window_.after_first_paint([this] { audio_.start(); });
   stop_signal_.listen([this] { window_.stop(); });

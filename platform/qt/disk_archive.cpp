@@ -24,14 +24,16 @@ std::optional<std::string> read_plain(const QString& path, std::size_t most) {
 
 }  // namespace
 
-DiskArchive::DiskArchive(QString program_folder, QString user_folder)
-    : program_folder_(std::move(program_folder)), user_folder_(std::move(user_folder)) {}
+DiskArchive::DiskArchive(QString program_folder, QString user_folder, Keep keep)
+    : program_folder_(std::move(program_folder)),
+      user_folder_(std::move(user_folder)),
+      keep_(keep) {}
 
 // A folder that can be written, where no folder or locked file stands in the file's place.
 bool DiskArchive::can_keep(const QString& path) const {
   const QFileInfo folder(program_folder_);
   const QFileInfo file(path);
-  return folder.isDir() && folder.isWritable() &&
+  return keep_ == Keep::beside_program && folder.isDir() && folder.isWritable() &&
          (!file.exists() || (file.isFile() && file.isWritable()));
 }
 

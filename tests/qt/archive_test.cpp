@@ -61,6 +61,16 @@ TEST_F(ArchiveTest, TheUsersOwnFileCountsOnlyWithoutTheOther) {
   EXPECT_EQ(nowhere.read("config.zvq", 99), "new");
 }
 
+// Also for those who may write everywhere.
+TEST_F(ArchiveTest, AnInstalledProgramKeepsNothingBesideItself) {
+  put(program("config.zvq"), "beside");
+  DiskArchive installed(program(""), user(""), DiskArchive::Keep::with_user);
+  EXPECT_EQ(installed.read("config.zvq", 99), "beside") << "nothing else is there yet";
+  EXPECT_TRUE(installed.replace("config.zvq", "mine"));
+  EXPECT_EQ(installed.read("config.zvq", 99), "mine");
+  EXPECT_EQ(archive_.read("config.zvq", 99), "beside");
+}
+
 TEST_F(ArchiveTest, GivesUpQuietly) {
   put(program("file"), "x");
   DiskArchive nowhere(program("file/program"), program("file/user"));
