@@ -4,6 +4,7 @@
 # Usage: tools/package.sh [FOLDER], by default build/package; the package lies there at the end.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+umask 022 # of whoever builds, nothing shows
 
 tools/setup.sh package
 version=$(sed -n 's/^project(tombrello VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)

@@ -7,7 +7,7 @@ packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev li
           libasound2-dev fonts-liberation fonts-urw-base35 timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev clang-format xvfb openbox xdotool imagemagick
-             x11-utils xclip desktop-file-utils)
+             x11-utils xclip desktop-file-utils libglib2.0-bin)
 fi
 if [ "${1:-}" = package ]; then
   packages+=(dpkg-dev debhelper lintian desktop-file-utils appstream libglib2.0-bin debootstrap

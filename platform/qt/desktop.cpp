@@ -1,6 +1,7 @@
 #include "qt/desktop.h"
 
 #include <QFileInfo>
+#include <QProcess>
 #include <QStandardPaths>
 #include <clocale>
 #include <cstdio>
@@ -42,6 +43,12 @@ QString program_folder() {
   return is_installed() ? TOMBRELLO_DATA : QCoreApplication::applicationDirPath();
 }
 
+// A folder that was moved has a desktop entry beside the program that is to hear of it.
+void tell_desktop_entry() {
+  const QString script = QCoreApplication::applicationDirPath() + "/desktop-entry.sh";
+  if (!is_installed() && QFileInfo(script).isExecutable()) QProcess::startDetached(script, {});
+}
+
 QString user_folder() {
   return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
@@ -66,7 +73,10 @@ Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const Drawing& 
       audio_(
           program_folder().toStdString(), [this] { wake_for_audio(); }, QApplication::beep) {
   qInstallMessageHandler(messages_);
-  window_.after_first_paint([this] { audio_.start(); });
+  window_.after_first_paint([this] {
+    audio_.start();
+    tell_desktop_entry();
+  });
   stop_signal_.listen([this] { window_.stop(); });
 }
 
