@@ -84,6 +84,8 @@ class SdlSequencer : public MediaControl {
   void set_opening_option(int) override {}
   void set_start_option(int) override {}
 
+  std::string missing_package() const override;
+
   /// True if the tune that was played last has come to its end and nobody was told yet.
   bool take_end();
 
