@@ -1,11 +1,36 @@
-# `cmake --install BUILD --prefix FOLDER` makes a folder that can be moved and started from
-# anywhere: program, sounds, tunes, icon and a desktop entry.
-install(TARGETS tombrello RUNTIME DESTINATION .)
-install(DIRECTORY assets/sounds DESTINATION . FILES_MATCHING PATTERN "*.wav")
-install(DIRECTORY assets/music DESTINATION . FILES_MATCHING PATTERN "*.mid")
-install(FILES LEGGIMI.md docs/pictures/tombrello.png DESTINATION .)
-# The entry finds the program beside itself, or, copied into a menu, where it was installed. It
-# names the icon by its place: after moving the folder, install again or lose the picture.
-install(CODE "cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX OUTPUT_VARIABLE home)
-  configure_file(\"${PROJECT_SOURCE_DIR}/cmake/Tombrello.desktop.in\"
-                 \"\$ENV{DESTDIR}\${home}/Tombrello.desktop\" @ONLY)")
+# Two ways to install. The plain one, `cmake --install BUILD --prefix FOLDER`, makes a folder that
+# can be moved and started from anywhere: program, sounds, tunes, icon and a desktop entry. With
+# TOMBRELLO_DATA set, everything goes where a system keeps it, for packages.
+
+# The date of this version, from its heading in the change log.
+file(STRINGS CHANGELOG.md heading REGEX "^## ${PROJECT_VERSION} ")
+string(REGEX MATCH "[0-9]+-[0-9]+-[0-9]+" TOMBRELLO_DATE "${heading}")
+
+if(TOMBRELLO_DATA)
+  set(TOMBRELLO_PROGRAM ${CMAKE_INSTALL_PREFIX}/games/tombrello)
+  set(program_folder games)
+  set(media_folder ${TOMBRELLO_DATA})
+else()
+  set(TOMBRELLO_PROGRAM tombrello)
+  set(program_folder .)
+  set(media_folder .)
+endif()
+configure_file(packaging/tombrello.desktop.in tombrello.desktop @ONLY)
+install(TARGETS tombrello RUNTIME DESTINATION ${program_folder})
+install(DIRECTORY assets/sounds DESTINATION ${media_folder} FILES_MATCHING PATTERN "*.wav")
+install(DIRECTORY assets/music DESTINATION ${media_folder} FILES_MATCHING PATTERN "*.mid")
+
+if(TOMBRELLO_DATA)
+  configure_file(packaging/tombrello.metainfo.xml.in tombrello.metainfo.xml @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/tombrello.desktop DESTINATION share/applications)
+  install(FILES ${PROJECT_BINARY_DIR}/tombrello.metainfo.xml DESTINATION share/metainfo)
+  install(FILES packaging/man/tombrello.6 DESTINATION share/man/man6)
+  install(FILES packaging/man/it/tombrello.6 DESTINATION share/man/it/man6)
+  install(DIRECTORY ${PROJECT_BINARY_DIR}/hicolor DESTINATION share/icons)
+else()
+  install(FILES LEGGIMI.md docs/pictures/tombrello.png DESTINATION .)
+  install(PROGRAMS packaging/desktop-entry.sh DESTINATION .)
+  install(PROGRAMS ${PROJECT_BINARY_DIR}/tombrello.desktop DESTINATION . RENAME Tombrello.desktop)
+  install(CODE "cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX OUTPUT_VARIABLE home)
+    execute_process(COMMAND \"\$ENV{DESTDIR}\${home}/desktop-entry.sh\" COMMAND_ERROR_IS_FATAL ANY)")
+endif()

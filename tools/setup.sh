@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that playing or checking needs, if any are missing.
-# Usage: tools/setup.sh play|check
+# Installs the Debian packages that playing, checking or packaging needs, if any are missing.
+# Usage: tools/setup.sh play|check|package
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
@@ -8,7 +8,11 @@ packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev li
           fonts-urw-base35 timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev libfluidsynth-dev clang-format xvfb openbox
-             xdotool imagemagick x11-utils xclip desktop-file-utils)
+             xdotool imagemagick x11-utils xclip desktop-file-utils libglib2.0-bin)
+fi
+if [ "${1:-}" = package ]; then
+  packages+=(dpkg-dev debhelper lintian desktop-file-utils appstream libglib2.0-bin debootstrap
+             faketime xvfb openbox xdotool imagemagick)
 fi
 
 missing=()

@@ -72,6 +72,15 @@ void Program::choose_in_group(EntryId entry) {
   if (entry == nomusic_0) music_.nomusic_Click();
   if (entry == all_0) music_.all_Click();
   if (entry > canzoni_0) music_.canzoni_Click(entry - canzoni_0);
+  if (entry == all_0 || entry > canzoni_0) tell_missing_package();
+}
+
+// Once: who wants music without it has chosen so.
+void Program::tell_missing_package() {
+  const std::string package = sequencer_.missing_package();
+  if (package.empty() || has_told_package_) return;
+  has_told_package_ = true;
+  chronicle_.remark("Per sentire la musica installa il pacchetto " + package);
 }
 
 void Program::menu_replay_Click() {

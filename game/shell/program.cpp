@@ -17,7 +17,8 @@ Program::Program(Platform platform)
       effects_(platform.wave, platform.beeper, s_.fruscio_opz),
       music_(platform.sequencer, window_, s_.brano, {menu_music, nomusic_0, all_0, canzoni_0},
              [this] { Set_Write(); }),
-      rules_(s_, g_, platform.clock, {table_, pacing_, effects_, *this, chronicle_}) {
+      rules_(s_, g_, platform.clock, {table_, pacing_, effects_, *this, chronicle_}),
+      sequencer_(platform.sequencer) {
   window_.set_events(this);
 }
 

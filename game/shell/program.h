@@ -89,6 +89,7 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   void menu_card_rustle_Click(int index);
   void esci_Click();
   void choose_in_group(EntryId entry);
+  void tell_missing_package();
   void before_wait();
   void press_enter();
   void press_space();
@@ -110,7 +111,9 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   Effects effects_;
   Music music_;
   Rules rules_;
+  MediaControl& sequencer_;
   bool has_complained_ = false;  ///< that settings can't be kept
+  bool has_told_package_ = false;
 };
 
 }  // namespace tombrello

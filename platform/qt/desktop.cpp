@@ -1,6 +1,8 @@
 #include "qt/desktop.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QProcess>
 #include <QStandardPaths>
 #include <clocale>
 #include <csignal>
@@ -44,8 +46,21 @@ std::filesystem::path path_of(const QString& folder) {
   return QFile::encodeName(folder).toStdString();
 }
 
+// A program that was installed finds its sounds and tunes in a data folder of its own; one that
+// carries them beside itself is at home there, whatever else is installed.
+bool is_installed() {
+  const QString beside = QCoreApplication::applicationDirPath() + "/sounds";
+  return TOMBRELLO_DATA[0] != '\0' && !QFileInfo(beside).isDir();
+}
+
 std::filesystem::path program_folder() {
-  return path_of(QCoreApplication::applicationDirPath());
+  return is_installed() ? TOMBRELLO_DATA : path_of(QCoreApplication::applicationDirPath());
+}
+
+// A folder that was moved has a desktop entry beside the program that is to hear of it.
+void tell_desktop_entry() {
+  const QString script = QCoreApplication::applicationDirPath() + "/desktop-entry.sh";
+  if (!is_installed() && QFileInfo(script).isExecutable()) QProcess::startDetached(script, {});
 }
 
 std::filesystem::path user_folder() {
@@ -67,12 +82,16 @@ Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const IconSourc
       application_(argc, argv),
       window_(std::move(pictures), icon),
       timer_(window_.events()),
-      archive_(program_folder(), user_folder()),
+      archive_(program_folder(), user_folder(),
+               is_installed() ? DiskArchive::Keep::with_user : DiskArchive::Keep::beside_program),
       audio_(
           program_folder(), [this] { wake_for_audio(); }, QApplication::beep,
           std::random_device()()) {
   qInstallMessageHandler(messages_);
-  window_.after_first_paint([this] { audio_.start(); });
+  window_.after_first_paint([this] {
+    audio_.start();
+    tell_desktop_entry();
+  });
   stop_signal_.listen([this] { window_.stop(); });
 }
 

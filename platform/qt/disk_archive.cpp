@@ -55,13 +55,19 @@ bool is_newer(const fs::path& path, const fs::path& other) {
 
 }  // namespace
 
-DiskArchive::DiskArchive(fs::path program_folder, fs::path user_folder)
-    : program_folder_(std::move(program_folder)), user_folder_(std::move(user_folder)) {}
+DiskArchive::DiskArchive(fs::path program_folder, fs::path user_folder, Keep keep)
+    : program_folder_(std::move(program_folder)),
+      user_folder_(std::move(user_folder)),
+      keep_(keep) {}
+
+bool DiskArchive::keeps_beside(const fs::path& path) const {
+  return keep_ == Keep::beside_program && can_keep(path);
+}
 
 std::optional<std::string> DiskArchive::read(const std::string& name, std::size_t most) {
   const fs::path beside = program_folder_ / name;
   const fs::path own = user_folder_ / name;
-  if (!can_keep(beside) || is_newer(own, beside)) {
+  if (!keeps_beside(beside) || is_newer(own, beside)) {
     if (auto content = read_plain(own, most)) return content;
   }
   return read_plain(beside, most);
@@ -69,7 +75,7 @@ std::optional<std::string> DiskArchive::read(const std::string& name, std::size_
 
 Trouble DiskArchive::put_beside(const std::string& name, const std::string& content) const {
   const fs::path path = program_folder_ / name;
-  return can_keep(path) ? put_whole(path, content) : Trouble::refused;
+  return keeps_beside(path) ? put_whole(path, content) : Trouble::refused;
 }
 
 Trouble DiskArchive::put_with_user(const std::string& name, const std::string& content) const {

@@ -1,10 +1,12 @@
 #include "pictures/pictures.h"
+#include "qt/command_line.h"
 #include "qt/desktop.h"
 #include "shell/program.h"
 #include "shell/system_clock.h"
 
 int main(int argc, char** argv) {
   using namespace tombrello;
+  if (const auto status = qt::answer_command_line(argc, argv, TOMBRELLO_VERSION)) return *status;
   qt::Desktop desktop(argc, argv, art::draw_picture, art::draw_icon);
   SystemClock clock;
   Program program({desktop.window(), desktop.timer(), desktop.archive(), clock, desktop.wave(),

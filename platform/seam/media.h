@@ -21,6 +21,9 @@ class MediaControl {
   virtual void set_blocking(bool blocking) = 0;
   virtual void set_opening_option(int option) = 0;
   virtual void set_start_option(int option) = 0;
+  /// The name of the package that the system would have to install before this device is heard;
+  /// empty if none is missing, or nobody knows. Looks at a few files, so not to be asked often.
+  virtual std::string missing_package() const { return {}; }
 };
 
 /// Where a device reports. Called from inside `Window::serve_events`, on the game's thread.

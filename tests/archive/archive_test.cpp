@@ -107,6 +107,16 @@ TEST_F(ArchiveTest, TheUsersOwnFileCountsWhereItIsNewerOrTheOnlyOne) {
   EXPECT_EQ(nowhere.read("config.zvq", 99), "new");
 }
 
+// Also for those who may write everywhere.
+TEST_F(ArchiveTest, AnInstalledProgramKeepsNothingBesideItself) {
+  put(program("config.zvq"), "beside");
+  DiskArchive installed(folder_ / "program", folder_ / "user", DiskArchive::Keep::with_user);
+  EXPECT_EQ(installed.read("config.zvq", 99), "beside") << "nothing else is there yet";
+  EXPECT_TRUE(installed.replace("config.zvq", "mine"));
+  EXPECT_EQ(installed.read("config.zvq", 99), "mine");
+  EXPECT_EQ(content(program("config.zvq")), "beside");
+}
+
 TEST_F(ArchiveTest, NothingIsLostWhereTheFileCantBeReplaced) {
   put(program("config.zvq"), "old");
   fs::permissions(program("config.zvq"), fs::perms::owner_write);

@@ -165,6 +165,11 @@ TEST_F(Installed, StartsFromAnywhereAndFindsItsTunes) {
   files::create_symlink(home / "tombrello", folder / "gioco");
   start({"sh", "-c", "cd / && exec \"$0\"", folder / "gioco"});
   EXPECT_TRUE(comes_true([&](const View&) { return !begun().empty(); }, Milliseconds(10000)));
+  const std::string icon = "\nIcon=" + home.string() + "/tombrello.png\n";
+  EXPECT_TRUE(comes_true(
+      [&](const View&) { return file("dov'è ora/Tombrello.desktop").find(icon) != icon.npos; },
+      Milliseconds(10000)))
+      << "the entry has not heard of the move";
   close_by_frame();
   expect_quiet_end();
 }

@@ -219,6 +219,22 @@ TEST_F(Shipped, StartsWhateverLiesInTheSettingsFilesPlace) {
   starts("a link to itself");
 }
 
+TEST_F(Shipped, AnswersOnTheCommandLineWithoutAScreen) {
+  environment.insert("DISPLAY", "");
+  const Outcome version = run({TOMBRELLO, "--version"});
+  EXPECT_EQ(version.status, 0);
+  EXPECT_EQ(version.out, "tombrello " TOMBRELLO_VERSION "\n");
+  const Outcome help = run({TOMBRELLO, "-session", "an id", "--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_NE(help.out.find("--version"), std::string::npos);
+  EXPECT_EQ(help.err + version.err, "");
+  const Outcome refused = run({TOMBRELLO, "--no-such", "--help"});
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_NE(refused.err.find("'--no-such'"), std::string::npos);
+  EXPECT_EQ(std::count(refused.err.begin(), refused.err.end(), '\n'), 1) << refused.err;
+}
+
 TEST_F(Shipped, SaysInOneLineThatThereIsNoScreen) {
   for (const char* display : {"", ":9999"}) {
     environment.insert("DISPLAY", display);

@@ -212,6 +212,10 @@ void SdlSequencer::command(Command command) {
   }
 }
 
+std::string SdlSequencer::missing_package() const {
+  return SdlMixerDevice::has_soundfont() ? "" : "timgm6mb-soundfont";
+}
+
 void SdlSequencer::want(const std::string& file) {
   const std::lock_guard lock(box_->mutex);
   ++box_->number;

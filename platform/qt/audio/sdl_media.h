@@ -88,6 +88,8 @@ class SdlSequencer : public MediaControl {
   void set_opening_option(int) override {}
   void set_start_option(int) override {}
 
+  std::string missing_package() const override;
+
   /// How the tune that was played last is done, as `MediaEvents` has it; 0 while it isn't, or
   /// once that was told.
   int take_done();

@@ -32,13 +32,17 @@ constexpr const char* kSoundfonts[] = {
 };
 
 // Only a font that is there is named: trying others costs a line on standard error each time.
-bool choose_soundfont() {
+const char* find_soundfont() {
   for (const char* font : kSoundfonts) {
     std::error_code error;
-    if (!fs::is_regular_file(font, error)) continue;
-    return Mix_SetSoundFonts(font) != 0;
+    if (fs::is_regular_file(font, error)) return font;
   }
-  return false;
+  return nullptr;
+}
+
+bool choose_soundfont() {
+  const char* const font = find_soundfont();
+  return font != nullptr && Mix_SetSoundFonts(font) != 0;
 }
 
 // Where there is no device, SDL and the libraries behind it would say so on standard error, in many
@@ -88,6 +92,10 @@ SdlMixerDevice::Lease SdlMixerDevice::lease() {
   stood_open_ = true;
   ++leases_;
   return Lease(this);
+}
+
+bool SdlMixerDevice::has_soundfont() {
+  return find_soundfont() != nullptr;
 }
 
 void SdlMixerDevice::leave_thread() {
