@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that playing or checking needs, if any are missing.
-# Usage: tools/setup.sh play|check
+# Usage: tools/setup.sh play|check|fuzz
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
@@ -9,6 +9,9 @@ packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev li
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev libfluidsynth-dev clang-format xvfb openbox
              xdotool imagemagick x11-utils xclip desktop-file-utils)
+fi
+if [ "${1:-}" = fuzz ]; then
+  packages+=(clang)
 fi
 
 missing=()
