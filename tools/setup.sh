@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that playing, checking or packaging needs, if any are missing.
-# Usage: tools/setup.sh play|check|package
+# Installs the Debian packages that playing, checking, packaging or fuzzing needs, if any are
+# missing.
+# Usage: tools/setup.sh play|check|package|fuzz
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
@@ -13,6 +14,9 @@ fi
 if [ "${1:-}" = package ]; then
   packages+=(dpkg-dev debhelper lintian desktop-file-utils appstream libglib2.0-bin debootstrap
              faketime xvfb openbox xdotool imagemagick)
+fi
+if [ "${1:-}" = fuzz ]; then
+  packages+=(clang)
 fi
 
 missing=()

@@ -275,34 +275,5 @@ TEST(Leaving, EsciAsksAndNoGoesOn) {
   EXPECT_EQ(game.archive.writes, 0);
 }
 
-TEST(Leaving, TheFramesCloseUnwindsEveryWaitAtOnceAndSavesNothing) {
-  for (const std::string wait : {"opening", "draw", "deal", "own turn", "computer's turn", "pause",
-                                 "reshuffle", "scoreboard"}) {
-    Game game(2, "", ScriptKind::simple);
-    int writes = 0;
-    game.window.on_pass = [&] {
-      if (game.wait() != wait) return;
-      writes = game.archive.writes;
-      game.window.close();
-    };
-    game.until([] { return false; });
-    game.play();
-    EXPECT_EQ(game.wait(), wait) << "nothing went on";
-    EXPECT_EQ(game.archive.writes, writes);
-  }
-}
-
-TEST(Leaving, UnderABox) {
-  for (const auto& [entry, box] : {std::pair{menu_replay, "Nel punteggio"}, {esci, "Uscire"}}) {
-    Game game(1, kept_deal());
-    game.window.on_box = [&] { game.window.close(); };
-    game.choose(entry).then([] { FAIL() << "the window is closed"; });
-    game.play();
-    ASSERT_EQ(game.window.boxes.size(), 1U);
-    EXPECT_TRUE(game.window.boxes[0].starts_with(box));
-    EXPECT_EQ(game.archive.writes, 0);
-  }
-}
-
 }  // namespace
 }  // namespace tombrello

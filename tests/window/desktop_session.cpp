@@ -23,10 +23,13 @@ constexpr int kPatience = 1;
 
 constexpr const char* kScreenSize = "1024x768x24";
 
-// Two keys, and nothing else of the window manager's own.
+// Two keys, and nothing else of the window manager's own. By its own lights it would take each
+// press first, to give the window focus, and on a busy machine hand it on after the keys that
+// were struck behind it.
 constexpr const char* kManagerFile = R"(<?xml version="1.0"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
 <focus><focusNew>yes</focusNew></focus>
+<mouse></mouse>
 <keyboard>
 <keybind key="A-F4"><action name="Close"/></keybind>
 <keybind key="A-F10"><action name="ToggleMaximize"/></keybind>
@@ -290,8 +293,12 @@ void DesktopSession::dismiss_opening() {
   wait_for("action", 7);
 }
 
+// A window that is just being shown again has no picture yet.
 Shot DesktopSession::shot() {
-  const Outcome grabbed = run({"import", "-window", window, "-depth", "8", "ppm:-"});
+  Outcome grabbed;
+  for (int tries = 0; tries < 20 && !grabbed.out.starts_with("P6"); ++tries) {
+    grabbed = run({"import", "-window", window, "-depth", "8", "ppm:-"});
+  }
   Shot result;
   std::istringstream picture(grabbed.out);
   std::string magic;
