@@ -1,6 +1,7 @@
 #include "computer/lay_off.h"
 
 #include <cassert>
+#include <utility>
 
 namespace tombrello {
 
@@ -75,10 +76,10 @@ void LayOff::lay(const Target& target, int slot) {
   const int seat = target.seat;
   if (slot == s_.n_mano[seat] && !s_.ha_pescato) take_pile(seat);
   out_.table.ridisegno_dorsi(seat);
-  out_.events.added(seat, target.owner, s_.mano[seat][slot]);
-  add_to_meld(target, s_.mano[seat][slot]);
-  s_.mano[seat][slot] = 0;
+  const std::int16_t card = std::exchange(s_.mano[seat][slot], std::int16_t{0});
+  add_to_meld(target, card);
   hands_.tidy(seat);
+  out_.events.added(seat, target.owner, card);
   out_.table.calo_carte(target.owner);
   out_.sound.beep();
 }

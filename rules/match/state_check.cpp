@@ -63,9 +63,8 @@ std::string check_list(const State& s, int seat, Count& count) {
 // `count` holds the cards of hands and melds.
 std::string check_cards(const State& s, StateCheck expected, Count count) {
   for (int k = 0; k < s.n_pozzo; ++k) count.add(s.pozzo[k]);
-  // With the last card taken `tallone` stays at 104, which only a hand's end can leave so.
-  const bool stock_empty = expected.hand_over && s.tallone == kCards && count.total() == kCards;
-  const int stock = stock_empty ? 0 : kCards + 1 - s.tallone;
+  if (s.stock_empty && !expected.hand_over) return "no card in the stock";
+  const int stock = s.stock_empty ? 0 : kCards + 1 - s.tallone;
   for (int k = kCards + 1 - stock; k <= kCards; ++k) count.add(s.mazzo[k]);
   if (count.total() != kCards) return "not 104 cards but " + std::to_string(count.total());
   if (expected.whole_deck && !count.two_of_each()) return "a card more or less than twice";
