@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that playing or checking needs, if any are missing.
-# Usage: tools/setup.sh play|check
+# Installs the Debian packages that playing or checking needs, or building for Windows and trying
+# that out under wine, if any are missing.
+# Usage: tools/setup.sh play|check|windows|wine
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
@@ -9,6 +10,11 @@ if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev clang-format xvfb openbox xdotool imagemagick
              x11-utils xclip desktop-file-utils)
 fi
+case "${1:-}" in
+  windows | wine)
+    packages=(g++ cmake ninja-build g++-mingw-w64-x86-64-posix libagg-dev googletest nsis) ;;&
+  wine) packages+=(wine wine64) ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do
