@@ -5,7 +5,7 @@
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
-          libasound2-dev fonts-liberation fonts-urw-base35 timgm6mb-soundfont)
+          libasound2-dev libagg-dev fonts-liberation fonts-urw-base35 timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev clang-format xvfb openbox xdotool imagemagick
              x11-utils xclip desktop-file-utils)
