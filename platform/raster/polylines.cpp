@@ -34,8 +34,8 @@ void add_curve(std::vector<Place>& places, Place b, Place c, Place d, double sca
     const double kb = 3 * u * u * t;
     const double kc = 3 * u * t * t;
     const double kd = t * t * t;
-    places.push_back({ka * a.x + kb * b.x + kc * c.x + kd * d.x,
-                      ka * a.y + kb * b.y + kc * c.y + kd * d.y});
+    places.push_back(
+        {ka * a.x + kb * b.x + kc * c.x + kd * d.x, ka * a.y + kb * b.y + kc * c.y + kd * d.y});
   }
   places.push_back(d);
 }

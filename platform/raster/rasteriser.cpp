@@ -64,8 +64,8 @@ class Gradient {
     if (after == stops.begin()) return premultiplied(after->colour);
     if (after == stops.end()) return premultiplied(stops.back().colour);
     const Stop& before = *(after - 1);
-    const double share = (place - static_cast<double>(before.at)) /
-                         static_cast<double>(after->at - before.at);
+    const double share =
+        (place - static_cast<double>(before.at)) / static_cast<double>(after->at - before.at);
     const auto mixed = [share](std::uint8_t a, std::uint8_t b) {
       return static_cast<std::uint8_t>(std::lround(a + share * (b - a)));
     };
@@ -151,8 +151,8 @@ Bitmap rasterise(const Drawing& drawing, int w, int h) {
   assert(w >= 1 && h >= 1);
   Bitmap bitmap(w, h);
   if (drawing.width <= 0 || drawing.height <= 0) return bitmap;
-  Painter painter(bitmap, {w / static_cast<double>(drawing.width),
-                           h / static_cast<double>(drawing.height)});
+  Painter painter(
+      bitmap, {w / static_cast<double>(drawing.width), h / static_cast<double>(drawing.height)});
   for (const Shape& shape : drawing.shapes) painter.paint(shape);
   return bitmap;
 }
