@@ -5,14 +5,15 @@
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
-          libasound2-dev libagg-dev fonts-liberation fonts-urw-base35 timgm6mb-soundfont)
+          libasound2-dev libagg-dev libutfcpp-dev fonts-liberation fonts-urw-base35
+          timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev clang-format xvfb openbox xdotool imagemagick
              x11-utils xclip desktop-file-utils)
 fi
 case "${1:-}" in
   windows | wine)
-    packages=(g++ cmake ninja-build g++-mingw-w64-x86-64-posix libagg-dev googletest nsis) ;;&
+    packages=(g++ cmake ninja-build g++-mingw-w64-x86-64-posix libagg-dev libutfcpp-dev googletest nsis) ;;&
   wine) packages+=(wine wine64) ;;
 esac
 

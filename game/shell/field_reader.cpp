@@ -1,5 +1,7 @@
 #include "shell/field_reader.h"
 
+#include <utf8.h>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -59,70 +61,22 @@ std::optional<double> FieldReader::number() {
 namespace {
 
 // Windows-1252 from 0x80 to 0x9F; what it leaves undefined becomes the replacement character.
-constexpr std::array<char16_t, 32> kWindows1252 = {
+constexpr std::array<char32_t, 32> kWindows1252 = {
     0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
-// Bytes that follow the first one of a UTF-8 character, or -1 if it can't start one.
-int following_bytes(unsigned char first) {
-  if (first < 0x80) return 0;
-  if (first >= 0xC2 && first < 0xE0) return 1;
-  if (first >= 0xE0 && first < 0xF0) return 2;
-  if (first >= 0xF0 && first < 0xF5) return 3;
-  return -1;
-}
-
-// Shortest forms only, no surrogates, nothing past the last character.
-bool may_follow_first(unsigned char first, unsigned char second) {
-  if (first == 0xE0) return second >= 0xA0;
-  if (first == 0xED) return second < 0xA0;
-  if (first == 0xF0) return second >= 0x90;
-  if (first == 0xF4) return second < 0x90;
-  return true;
-}
-
-bool is_utf8(const std::string& bytes) {
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    const auto first = static_cast<unsigned char>(bytes[i]);
-    int following = following_bytes(first);
-    if (following < 0) return false;
-    if (following > 0 && i + 1 < bytes.size() &&
-        !may_follow_first(first, static_cast<unsigned char>(bytes[i + 1]))) {
-      return false;
-    }
-    for (; following > 0; --following) {
-      if (++i >= bytes.size()) return false;
-      if ((static_cast<unsigned char>(bytes[i]) & 0xC0U) != 0x80U) return false;
-    }
-  }
-  return true;
-}
-
-void append_utf8(std::string& text, char16_t c) {
-  if (c < 0x80) {
-    text += static_cast<char>(c);
-  } else if (c < 0x800) {
-    text += static_cast<char>(0xC0 | (c >> 6));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
-    text += static_cast<char>(0xE0 | (c >> 12));
-    text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  }
-}
-
 }  // namespace
 
-std::string as_utf8(const std::string& bytes) {
-  constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";  // some editors put it in front
-  if (bytes.starts_with(kByteOrderMark)) return as_utf8(bytes.substr(3));
-  if (is_utf8(bytes)) return bytes;
+std::string as_utf8(std::string_view bytes) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";  // some editors put it in front
+  while (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  if (utf8::is_valid(bytes)) return std::string(bytes);
   std::string text;
   for (const char byte : bytes) {
     const auto c = static_cast<unsigned char>(byte);
     const bool special = c >= 0x80 && c < 0xA0;
-    append_utf8(text, special ? kWindows1252[static_cast<std::size_t>(c - 0x80)] : c);
+    utf8::append(special ? kWindows1252[static_cast<std::size_t>(c - 0x80)] : char32_t{c}, text);
   }
   return text;
 }

@@ -27,6 +27,6 @@ class FieldReader {
 };
 
 /// The text itself if it is UTF-8, or else its bytes read as Windows-1252.
-std::string as_utf8(const std::string& bytes);
+std::string as_utf8(std::string_view bytes);
 
 }  // namespace tombrello

@@ -29,7 +29,7 @@ std::string label(int index) {
 
 void NamesDialog::create() {
   for (int i = 1; i <= kSeats; ++i) {
-    window_.add_field(TxtPlayer_0 + i, kMostNameCharacters, {"MS Sans Serif", 7.8F});
+    window_.add_field(TxtPlayer_0 + i, allowed_in_name, {"MS Sans Serif", 7.8F});
   }
   window_.add_shape(Shape1_0, kShape0Colour);
   window_.add_shape(Shape1_1, kShape1Colour);
@@ -51,6 +51,7 @@ void NamesDialog::personalize_players_Click() {
     window_.place(field, {kFieldX, top, kFieldX + kFieldWidth, top + kFieldHeight});
     window_.set_visible(field, true);
     surface.set_text_position(5, top + 1);
+    TxtPlayer_Change(i, s_.nomi[static_cast<std::size_t>(i - 1)]);  // a field holds capitals
     window_.set_text(field, s_.nomi[static_cast<std::size_t>(i - 1)]);
     surface.print(label(i));
   }
@@ -64,8 +65,7 @@ void NamesDialog::personalize_players_Click() {
 
 // The field goes on showing what was typed.
 void NamesDialog::TxtPlayer_Change(int index, const std::string& text) {
-  const std::string name = name_from_typed(text);
-  if (is_storable_name(name)) s_.nomi[static_cast<std::size_t>(index - 1)] = name;
+  s_.nomi[static_cast<std::size_t>(index - 1)] = name_from_typed(text, capital_);
 }
 
 Place NamesDialog::confirm_button() {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cards/state.h"
+#include "seam/capital.h"
 #include "seam/window.h"
 #include "shell/ids.h"
 #include "shell/settings.h"
@@ -14,8 +15,9 @@ namespace tombrello {
 /// for the opening picture or the deck meanwhile.
 class NamesDialog {
  public:
-  NamesDialog(State& state, Window& window, Settings& settings, PaintedTable& table)
-      : s_(state), window_(window), settings_(settings), table_(table) {}
+  NamesDialog(State& state, Window& window, Settings& settings, PaintedTable& table,
+              Capital capital)
+      : s_(state), window_(window), settings_(settings), table_(table), capital_(capital) {}
 
   /// Creates fields and shapes, hidden.
   void create();
@@ -38,6 +40,7 @@ class NamesDialog {
   Window& window_;
   Settings& settings_;
   PaintedTable& table_;
+  Capital capital_;
 };
 
 }  // namespace tombrello

@@ -7,7 +7,7 @@ Program::Program(Platform platform)
       settings_(s_, platform.archive),
       panels_(window_),
       table_(s_, g_, window_),
-      names_(s_, window_, settings_, table_),
+      names_(s_, window_, settings_, table_, platform.capital),
       chronicle_(s_, window_),
       pointer_(s_, g_, window_, panels_, names_, chronicle_),
       places_(s_, g_, pointer_),

@@ -9,6 +9,7 @@
 #include "match/rules.h"
 #include "seam/archive.h"
 #include "seam/beeper.h"
+#include "seam/capital.h"
 #include "seam/media.h"
 #include "seam/timer.h"
 #include "seam/window.h"
@@ -34,6 +35,7 @@ struct Platform {
   MediaControl& wave;
   MediaControl& sequencer;
   Beeper& beeper;
+  char32_t (&capital)(char32_t letter);  ///< as `Capital`
 };
 
 /// The program: owns the state of a run, and binds window, table, rules and settings. All of

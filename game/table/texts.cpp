@@ -1,3 +1,5 @@
+#include <utf8.h>
+
 #include <algorithm>
 #include <string>
 
@@ -13,9 +15,10 @@ constexpr float kTitleX = 500;      // right of seat 3's place
 
 // Length in bytes of the UTF-8 character that starts at `at`, inside the text.
 std::size_t character_length(const std::string& text, std::size_t at) {
-  std::size_t end = at + 1;
-  while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) ++end;
-  return end - at;
+  const auto from = text.begin() + static_cast<std::ptrdiff_t>(at);
+  auto end = from;
+  utf8::next(end, text.end());
+  return static_cast<std::size_t>(end - from);
 }
 
 }  // namespace

@@ -4,19 +4,11 @@
 #include <utility>
 
 namespace tombrello {
-namespace {
-
-// Cuts a UTF-8 text after so many characters.
-std::string cut(const std::string& text, int most_characters) {
-  std::size_t end = 0;
-  for (int left = most_characters; end < text.size(); ++end) {
-    const bool starts_character = (static_cast<unsigned char>(text[end]) & 0xC0U) != 0x80U;
-    if (starts_character && left-- == 0) break;
-  }
-  return text.substr(0, end);
+char32_t plain_capital(char32_t letter) {
+  const bool has_one =
+      (letter >= U'a' && letter <= U'z') || (letter >= U'à' && letter <= U'þ' && letter != U'÷');
+  return has_one ? letter - 0x20 : letter;
 }
-
-}  // namespace
 
 void HeadlessTimer::start(int milliseconds) {
   running_ = true;
@@ -125,7 +117,7 @@ bool HeadlessWindow::press_key(ControlId control) {
 bool HeadlessWindow::type(ControlId field, const std::string& text) {
   if (in_box_ || events_ == nullptr || !visible(field)) return false;
   Control& control = controls_.at(field);
-  control.text = cut(text, control.most_characters);
+  control.text = control.rule(text, 0);
   events_->field_changed(field, control.text);
   return true;
 }
@@ -151,17 +143,16 @@ std::vector<EntryId> HeadlessWindow::entries(EntryId parent) const {
   return children;
 }
 
-void HeadlessWindow::add_control(ControlId control, std::string text, int most_characters) {
-  controls_.insert_or_assign(control,
-                             Control{{}, std::move(text), most_characters, false, ++highest_});
+void HeadlessWindow::add_control(ControlId control, std::string text, FieldRule rule) {
+  controls_.insert_or_assign(control, Control{{}, std::move(text), rule, false, ++highest_});
 }
 
 void HeadlessWindow::add_panel(ControlId panel, const std::string& text, const Font&, long, long) {
   add_control(panel, text);
 }
 
-void HeadlessWindow::add_field(ControlId field, int most_characters, const Font&) {
-  add_control(field, "", most_characters);
+void HeadlessWindow::add_field(ControlId field, FieldRule rule, const Font&) {
+  add_control(field, "", rule);
 }
 
 void HeadlessWindow::add_shape(ControlId shape, Colour) {

@@ -25,6 +25,9 @@ class HeadlessTimer : public Timer {
   int period_ = 0;
 };
 
+/// Of the letters of Western Europe.
+char32_t plain_capital(char32_t letter);
+
 /// Files that live in memory.
 class MemoryArchive : public Archive {
  public:
@@ -121,7 +124,7 @@ class HeadlessWindow : public Window {
 
   void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
                  long back_colour) override;
-  void add_field(ControlId field, int most_characters, const Font& font) override;
+  void add_field(ControlId field, FieldRule rule, const Font& font) override;
   void add_shape(ControlId shape, Colour colour) override;
   void add_picture(ControlId control, Picture picture) override;
   void place(ControlId control, const Area& area) override { controls_.at(control).area = area; }
@@ -141,12 +144,12 @@ class HeadlessWindow : public Window {
   struct Control {
     Area area;
     std::string text;
-    int most_characters = 0;  // of a field
+    FieldRule rule = nullptr;  // of a field
     bool visible = false;
     int height = 0;  // above the table
   };
 
-  void add_control(ControlId control, std::string text, int most_characters = 0);
+  void add_control(ControlId control, std::string text, FieldRule rule = nullptr);
   void end_timer();
 
   HeadlessTimer& timer_;

@@ -25,17 +25,6 @@ QColor colour_or(long colour, const QColor& otherwise) {
   return colour < 0 ? otherwise : to_qcolor(static_cast<Colour>(colour));
 }
 
-bool may_stand_in_name(char32_t character) {
-  if (character == U',' || character == U'"') return false;
-  const QChar::Category category = QChar::category(character);
-  return QChar::isPrint(character) && category != QChar::Separator_Line &&
-         category != QChar::Separator_Paragraph;
-}
-
-qsizetype length_in_capitals(char32_t character) {
-  return QString::fromUcs4(&character, 1).toUpper().toUcs4().size();
-}
-
 // The first line, and each line that has an empty one above it and a text below it.
 bool is_heading(const QTextBlock& line) {
   if (!line.previous().isValid()) return true;
@@ -102,21 +91,8 @@ void Panel::mouseReleaseEvent(QMouseEvent* event) {
   if (rect().contains(event->position().toPoint())) events_.control_clicked(id_);
 }
 
-QString allowed_in_field(const QString& text, int most_characters) {
-  QString allowed;
-  qsizetype room = most_characters;
-  for (const char32_t character : text.left(kMostTyped).toUcs4()) {
-    if (!may_stand_in_name(character)) continue;
-    room -= length_in_capitals(character);
-    if (room < 0) break;
-    allowed += QString::fromUcs4(&character, 1);
-  }
-  return allowed;
-}
-
-Field::Field(ControlId id, int most_characters, const Font& font, QWidget& parent,
-             WindowEvents& events)
-    : QLineEdit(&parent), id_(id), most_characters_(most_characters), font_(font), events_(events) {
+Field::Field(ControlId id, FieldRule rule, const Font& font, QWidget& parent, WindowEvents& events)
+    : QLineEdit(&parent), id_(id), rule_(rule), font_(font), events_(events) {
   setFrame(false);
   setMaxLength(kMostTyped);
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -137,20 +113,24 @@ void Field::fit(const Area& area, const TableGeometry& geometry) {
 }
 
 void Field::set_text(const std::string& text) {
-  setText(allowed_in_field(QString::fromStdString(text), most_characters_));
+  setText(allowed(QString::fromStdString(text), 0));
+}
+
+QString Field::allowed(const QString& raw, qsizetype characters_already) const {
+  return QString::fromStdString(
+      rule_(raw.left(kMostTyped).toStdString(), static_cast<int>(characters_already)));
 }
 
 // What is typed into a full field is what doesn't fit, wherever it was typed.
 void Field::edited(const QString& raw) {
-  const QString behind = allowed_in_field(raw.mid(cursorPosition()), most_characters_);
-  const int room = most_characters_ - static_cast<int>(behind.toUpper().toUcs4().size());
-  const QString before = allowed_in_field(raw.left(cursorPosition()), room);
-  const QString allowed = before + behind;
-  if (allowed != raw) {
-    setText(allowed);
+  const QString behind = allowed(raw.mid(cursorPosition()), 0);
+  const QString before = allowed(raw.left(cursorPosition()), behind.toUcs4().size());
+  const QString text = before + behind;
+  if (text != raw) {
+    setText(text);
     setCursorPosition(static_cast<int>(before.size()));
   }
-  events_.field_changed(id_, allowed.toStdString());
+  events_.field_changed(id_, text.toStdString());
 }
 
 void Field::paintEvent(QPaintEvent* event) {

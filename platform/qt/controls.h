@@ -38,13 +38,9 @@ class Panel : public QTextEdit, public Control {
   WindowEvents& events_;
 };
 
-/// What may stand in a field: no comma, no double quote, nothing that doesn't print, and as
-/// many characters as stay within the bound when they are turned into capitals.
-QString allowed_in_field(const QString& text, int most_characters);
-
 class Field : public QLineEdit, public Control {
  public:
-  Field(ControlId id, int most_characters, const Font& font, QWidget& parent, WindowEvents& events);
+  Field(ControlId id, FieldRule rule, const Font& font, QWidget& parent, WindowEvents& events);
   QWidget& widget() override { return *this; }
   void fit(const Area& area, const TableGeometry& geometry) override;
   void set_text(const std::string& text);
@@ -53,10 +49,11 @@ class Field : public QLineEdit, public Control {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QString allowed(const QString& raw, qsizetype characters_already) const;
   void edited(const QString& raw);
 
   ControlId id_;
-  int most_characters_;
+  FieldRule rule_;
   Font font_;
   WindowEvents& events_;
 };

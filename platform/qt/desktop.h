@@ -10,6 +10,11 @@
 
 namespace tombrello::qt {
 
+/// As `Capital`, from Qt's tables of letters.
+inline char32_t capital(char32_t letter) {
+  return QChar::toUpper(letter);
+}
+
 /// Everything that the program asks of a desktop, made in the right order. One in a process,
 /// made before any thread is started:
 ///

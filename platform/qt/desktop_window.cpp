@@ -151,8 +151,8 @@ void DesktopWindow::add_panel(ControlId panel, const std::string& text, const Fo
   overlay_.add_panel(panel, text, font, text_colour, back_colour);
 }
 
-void DesktopWindow::add_field(ControlId field, int most_characters, const Font& font) {
-  overlay_.add_field(field, most_characters, font);
+void DesktopWindow::add_field(ControlId field, FieldRule rule, const Font& font) {
+  overlay_.add_field(field, rule, font);
 }
 
 void DesktopWindow::add_shape(ControlId shape, Colour colour) {

@@ -25,8 +25,8 @@ void Overlay::add_panel(ControlId panel, const std::string& text, const Font& fo
   add(panel, std::make_unique<Panel>(panel, text, font, text_colour, back_colour, table_, events_));
 }
 
-void Overlay::add_field(ControlId field, int most_characters, const Font& font) {
-  add(field, std::make_unique<Field>(field, most_characters, font, table_, events_));
+void Overlay::add_field(ControlId field, FieldRule rule, const Font& font) {
+  add(field, std::make_unique<Field>(field, rule, font, table_, events_));
 }
 
 void Overlay::add_shape(ControlId shape, Colour colour) {

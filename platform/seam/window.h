@@ -35,6 +35,9 @@ struct TablePlace {
   bool operator==(const TablePlace&) const = default;
 };
 
+/// What of a typed UTF-8 text a field takes, in which so many characters stand already beside it.
+using FieldRule = std::string (*)(const std::string& text, int characters_already);
+
 /// What the window tells the program, always from inside `Window::serve_events`
 /// or `Window::message_box`, nested in whatever wait the game is in. Handlers post and return;
 /// they never throw, and wait for nothing but the answer to a box of theirs.
@@ -106,7 +109,8 @@ class Window {
   /// A panel shows fixed text in a font of its own; a negative colour means the system's.
   virtual void add_panel(ControlId panel, const std::string& text, const Font& font,
                          long text_colour, long back_colour) = 0;
-  virtual void add_field(ControlId field, int most_characters, const Font& font) = 0;
+  /// What `rule` doesn't take can't be typed or pasted into a field.
+  virtual void add_field(ControlId field, FieldRule rule, const Font& font) = 0;
   virtual void add_shape(ControlId shape, Colour colour) = 0;
   virtual void add_picture(ControlId control, Picture picture) = 0;
   virtual void place(ControlId control, const Area& area) = 0;

@@ -100,7 +100,7 @@ class Game {
   SilentMedia wave;
   SilentMedia sequencer;
   SilentBeeper beeper;
-  Program program{{window, timer, archive, clock, wave, sequencer, beeper}};
+  Program program{{window, timer, archive, clock, wave, sequencer, beeper, plain_capital}};
 
  private:
   void go_on(const std::function<bool()>& done, int every) {

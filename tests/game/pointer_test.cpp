@@ -59,7 +59,7 @@ class PointerTest : public testing::Test {
   Settings settings_{s_, archive_};
   Panels panels_{window_};
   PaintedTable table_{s_, m_, window_};
-  NamesDialog names_{s_, window_, settings_, table_};
+  NamesDialog names_{s_, window_, settings_, table_, plain_capital};
   Chronicle chronicle_{s_, window_};
   Pointer pointer_{s_, m_, window_, panels_, names_, chronicle_};
 };

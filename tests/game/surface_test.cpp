@@ -22,10 +22,12 @@ TEST_F(SurfaceTest, CornersInAnyOrderAndNegativeSizesThatMirror) {
   surface_.paint(kLying, 200, 100, -90, 60);
   surface_.paint(kLying, 200, 100, 90, -60);
   surface_.paint(kLying, 200, 100, -90, -60);
+  surface_.paint(kLying, 200, 100, 0, 0);
   EXPECT_EQ(seen(surface_),
             (Lines{"box 10,20 30,40 felt", "box 12,20 32,40 felt", "frame 10,20 30,40 yellow",
                    "cartao3 200,100 290,160", "cartao3 110,100 200,160 mirrored x",
-                   "cartao3 200,40 290,100 mirrored y", "cartao3 110,40 200,100 turned"}));
+                   "cartao3 200,40 290,100 mirrored y", "cartao3 110,40 200,100 turned",
+                   "cartao3 200,100 200,100"}));
 }
 
 TEST_F(SurfaceTest, ABoxTakesAwayWhatItCoversWholly) {

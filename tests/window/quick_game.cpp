@@ -192,7 +192,7 @@ int main(int argc, char** argv) {
     return std::atoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]);
   });
   Program program({desktop.window(), timer, archive, clock, desktop.wave(), desktop.sequencer(),
-                   desktop.beeper()});
+                   desktop.beeper(), capital});
   desktop.set_media_events(&program);
   state = &program.state();
   Teller deck;
