@@ -13,11 +13,12 @@ HRESULT CALLBACK Question::follow(HWND box, UINT what, WPARAM, LPARAM, LONG_PTR 
   return S_OK;
 }
 
-// The buttons are named here: the system's own would speak the system's language.
+// The buttons are named here: the system's own would speak the system's language. The one that the
+// box's closing stands for has the number for that.
 Answer Question::ask(HWND frame, const std::string& text, Buttons buttons) {
   const std::wstring words = wide(text);
-  const TASKDIALOG_BUTTON answers[] = {{IDYES, L"Sì"}, {IDNO, L"No"}};
-  const TASKDIALOG_BUTTON agreement[] = {{IDOK, L"OK"}};
+  const TASKDIALOG_BUTTON answers[] = {{IDYES, L"Sì"}, {IDCANCEL, L"No"}};
+  const TASKDIALOG_BUTTON agreement[] = {{IDCANCEL, L"OK"}};
   const bool asks = buttons == Buttons::yes_no;
   TASKDIALOGCONFIG config{};
   config.cbSize = sizeof config;
@@ -28,7 +29,7 @@ Answer Question::ask(HWND frame, const std::string& text, Buttons buttons) {
   config.pszContent = words.c_str();
   config.cButtons = asks ? 2 : 1;
   config.pButtons = asks ? answers : agreement;
-  config.nDefaultButton = asks ? IDYES : IDOK;
+  config.nDefaultButton = asks ? IDYES : IDCANCEL;
   config.pfCallback = follow;
   config.lpCallbackData = reinterpret_cast<LONG_PTR>(this);
   int pressed = IDCANCEL;
