@@ -144,6 +144,8 @@ LRESULT DesktopWindow::message(UINT message, WPARAM w, LPARAM l) {
         relay_.entry_chosen(static_cast<EntryId>(LOWORD(w)));
       }
       return 0;
+    case WM_NCLBUTTONDBLCLK:  // two quick choices in the bar are two choices
+      return NativeWindow::message(w == HTMENU ? WM_NCLBUTTONDOWN : message, w, l);
     case WM_CLOSE:  // under a box, which blocks the frame, it comes from outside
       question_.waits() ? stop() : close();
       return 0;

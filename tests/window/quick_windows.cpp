@@ -112,9 +112,11 @@ void add_screen(Line& line, HWND frame) {
   MENUBARINFO bar{};
   bar.cbSize = sizeof bar;
   GetMenuBarInfo(frame, OBJID_MENU, 0, &bar);
-  const int bar_height = static_cast<int>(bar.rcBar.bottom - bar.rcBar.top) + 1;
   if (!IsIconic(frame)) {
     const painting::PixelRect inside = client_pixels(frame);
+    POINT corner{};
+    ClientToScreen(frame, &corner);
+    const int bar_height = static_cast<int>(corner.y - bar.rcBar.top) + 1;  // and its line
     line.add("width", inside.width()).add("height", inside.height() + bar_height);
     line.add("bar", bar_height);
   }
