@@ -27,6 +27,7 @@ DesktopWindow::DesktopWindow(painting::PictureSource pictures)
   SetMenu(handle(), menus_.bar());
   menus_.set_frame(handle());
   table_.create_in(handle());
+  line_.create_in(handle());
   place_in_work_area();
 }
 
@@ -43,6 +44,16 @@ void DesktopWindow::place_in_work_area() {
   const int x = static_cast<int>(work.left) + (free_width - width) / 2;
   const int y = static_cast<int>(work.top) + (free_height - height) / 2;
   move_to(handle(), {x, y, x + width, y + height});
+}
+
+// The table, and the line below it.
+void DesktopWindow::lay_out() {
+  if (line_.handle() == nullptr) return;
+  painting::PixelRect table = client_pixels(handle());
+  painting::PixelRect line = table;
+  line.top = table.bottom = std::max(1, table.bottom - line_.height());
+  move_to(table_.handle(), table);
+  move_to(line_.handle(), line);
 }
 
 void DesktopWindow::keep_smallest_size(MINMAXINFO& info) const {
@@ -125,7 +136,7 @@ void DesktopWindow::keep_keyboard(bool active) {
 LRESULT DesktopWindow::message(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_SIZE:
-      if (w != SIZE_MINIMIZED) move_to(table_.handle(), client_pixels(handle()));
+      if (w != SIZE_MINIMIZED) lay_out();
       return 0;
     case WM_GETMINMAXINFO:
       keep_smallest_size(*reinterpret_cast<MINMAXINFO*>(l));

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "seam/window.h"
+#include "windows/chronicle_line.h"
 #include "windows/event_relay.h"
 #include "windows/menus.h"
 #include "windows/overlay.h"
@@ -28,6 +29,15 @@ class DesktopWindow : public NativeWindow, public Window {
   void close() override;
   /// As `close`, and takes down a box or a menu that waits for its answer.
   void stop();
+
+  void set_chronicle(const std::string& now, const std::string& then) override {
+    line_.tell(now, then);
+  }
+  void set_mark(const std::optional<Area>& area) override { table_.set_mark(area); }
+  bool wants_places() const override { return table_.wants_places(); }
+  void set_places(const std::vector<TablePlace>& places, int focus) override {
+    table_.set_places(places, focus);
+  }
 
   void set_pointer(PointerShape shape) override { table_.set_pointer(shape); }
   PointerShape pointer() const override { return table_.pointer(); }
@@ -62,6 +72,7 @@ class DesktopWindow : public NativeWindow, public Window {
 
   Timer& timer() { return timer_; }
   TableView& table() { return table_; }
+  const ChronicleLine& line() const { return line_; }
   Question& question() { return question_; }
   /// Called on this thread soon after any thread has called `wake`.
   void set_woken(std::function<void()> woken) { woken_ = std::move(woken); }
@@ -74,6 +85,7 @@ class DesktopWindow : public NativeWindow, public Window {
   static constexpr UINT kWake = WM_APP + 2;
 
   void wait();
+  void lay_out();
   void place_in_work_area();
   void keep_smallest_size(MINMAXINFO& info) const;
   void keep_keyboard(bool active);
@@ -83,6 +95,7 @@ class DesktopWindow : public NativeWindow, public Window {
   WaitableTimer timer_;
   Menus menus_;
   TableView table_;
+  ChronicleLine line_;
   Overlay overlay_{table_, relay_};
   Question question_;
   HWND keyboard_ = nullptr;  ///< where it was when the window was left

@@ -30,6 +30,15 @@ class EventRelay : public WindowEvents {
   void field_confirmed(ControlId field) override {
     if (target_ != nullptr) target_->field_confirmed(field);
   }
+  void key_pressed(Key key) override {
+    if (target_ != nullptr) target_->key_pressed(key);
+  }
+  void key_released(Key key) override {
+    if (target_ != nullptr) target_->key_released(key);
+  }
+  void place_pressed(int place, Button button) override {
+    if (target_ != nullptr) target_->place_pressed(place, button);
+  }
   void timer_ticked() override {
     if (target_ != nullptr) target_->timer_ticked();
   }

@@ -35,9 +35,9 @@ std::wstring text_of(HWND edit) {
 }  // namespace
 
 Field::Field(ControlId id, FieldRule rule, const Font& font, TableView& table, WindowEvents& events)
-    : id_(id), rule_(rule), font_(font), events_(events) {
-  edit_ = CreateWindowExW(0, L"EDIT", L"", kControlStyle | WS_BORDER | ES_AUTOHSCROLL, 0, 0, 0, 0,
-                          table.handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
+    : id_(id), rule_(rule), font_(font), table_(table), events_(events) {
+  edit_ = CreateWindowExW(0, L"EDIT", L"", kControlStyle | WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL,
+                          0, 0, 0, 0, table.handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
   SendMessageW(edit_, EM_SETLIMITTEXT, kMostTyped, 0);
   SetWindowSubclass(edit_, procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
@@ -89,6 +89,13 @@ void Field::edited() {
   events_.field_changed(id_, utf8(before + behind));
 }
 
+void Field::to_next_field() {
+  const HWND next = GetNextDlgTabItem(table_.handle(), edit_, GetKeyState(VK_SHIFT) < 0);
+  if (next == nullptr || next == edit_) return;
+  SetFocus(next);
+  SendMessageW(next, EM_SETSEL, 0, -1);
+}
+
 LRESULT CALLBACK Field::procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
                                   DWORD_PTR self) {
   auto& field = *reinterpret_cast<Field*>(self);
@@ -102,6 +109,8 @@ LRESULT CALLBACK Field::procedure(HWND window, UINT message, WPARAM w, LPARAM l,
       break;
     case WM_KEYDOWN:
       if (w == 'A' && GetKeyState(VK_CONTROL) < 0) SendMessageW(window, EM_SETSEL, 0, -1);
+      if (w == VK_TAB) field.to_next_field();
+      if (field.table_.take_key_from_elsewhere(w)) return 0;
       break;
     case WM_CONTEXTMENU:
       return 0;

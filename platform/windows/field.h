@@ -23,12 +23,14 @@ class Field : public Control {
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
                                     DWORD_PTR self);
   void edited();
+  void to_next_field();
   void put(const std::wstring& text);
   std::wstring allowed(const std::wstring& raw, int characters_already) const;
 
   ControlId id_;
   FieldRule rule_;
   Font font_;
+  TableView& table_;
   WindowEvents& events_;
   HWND edit_;
   bool putting_ = false;

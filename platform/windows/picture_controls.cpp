@@ -136,6 +136,9 @@ LRESULT PictureControl::message(UINT message, WPARAM w, LPARAM l) {
     case WM_MBUTTONUP:
       events_.control_clicked(id_);
       return 0;
+    case WM_KEYDOWN:
+      if (w == VK_F1) table_.take_key_from_elsewhere(w);
+      return 0;
     case WM_CHAR:
       events_.control_key_pressed(id_);
       return 0;

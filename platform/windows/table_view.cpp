@@ -5,6 +5,8 @@
 #include <chrono>
 #include <utility>
 
+#include "painting/mark.h"
+
 namespace tombrello::windows {
 namespace {
 
@@ -25,6 +27,37 @@ const wchar_t* cursor_of(PointerShape shape) {
       break;
   }
   return IDC_ARROW;
+}
+
+std::optional<Key> key_of(WPARAM key) {
+  if (GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0) return std::nullopt;
+  switch (key) {
+    case VK_UP:
+      return Key::up;
+    case VK_DOWN:
+      return Key::down;
+    case VK_LEFT:
+      return Key::left;
+    case VK_RIGHT:
+      return Key::right;
+    case VK_TAB:
+      return GetKeyState(VK_SHIFT) < 0 ? Key::previous : Key::next;
+    case VK_RETURN:
+      return Key::enter;
+    case VK_SPACE:
+      return Key::space;
+    case VK_F1:
+      return Key::help;
+    case VK_ESCAPE:
+      return Key::escape;
+    default:
+      return std::nullopt;
+  }
+}
+
+// These go on while the key is held.
+bool moves_mark(Key key) {
+  return key != Key::enter && key != Key::space && key != Key::help && key != Key::escape;
 }
 
 }  // namespace
@@ -81,6 +114,7 @@ void TableView::paint() {
   const Region drafts =
       painting::paint_surface(canvas, letters_, surface_, geometry_, exposed, pictures_,
                               std::chrono::steady_clock::now() + kPatience);
+  if (mark_) painting::paint_mark(canvas, *mark_, geometry_);
   buffer_.show(screen, shown.rcPaint);
   EndPaint(handle(), &shown);
   repaint(drafts);
@@ -89,6 +123,38 @@ void TableView::paint() {
     stale_sizes_ = false;
   }
   if (first_paint_) std::exchange(first_paint_, nullptr)();
+}
+
+void TableView::repaint_mark() {
+  if (!mark_) return;
+  for (const PixelRect& side : painting::mark_pixels(*mark_, geometry_)) repaint(side);
+}
+
+// Only the outline is painted anew, where it was and where it is.
+void TableView::set_mark(const std::optional<Area>& area) {
+  if (area == mark_) return;
+  repaint_mark();
+  mark_ = area;
+  repaint_mark();
+}
+
+bool TableView::key(UINT message, WPARAM pressed, LPARAM l) {
+  const std::optional<Key> key = key_of(pressed);
+  if (!key) return false;
+  constexpr LPARAM kHeld = 1 << 30;
+  if (message == WM_KEYUP) {
+    events_.key_released(*key);
+  } else if ((l & kHeld) == 0 || moves_mark(*key)) {
+    events_.key_pressed(*key);
+  }
+  return true;
+}
+
+bool TableView::take_key_from_elsewhere(WPARAM pressed) {
+  const std::optional<Key> key = key_of(pressed);
+  if (key != Key::help && key != Key::escape) return false;
+  events_.key_pressed(*key);
+  return true;
 }
 
 Point TableView::logical(LPARAM place) const {
@@ -143,6 +209,13 @@ LRESULT TableView::message(UINT message, WPARAM w, LPARAM l) {
     case WM_MOUSEMOVE:
       moved(l);
       return 0;
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+      if (key(message, w, l)) return 0;
+      break;
+    case WM_KILLFOCUS:  // what is held down when the keyboard goes elsewhere is let go there
+      events_.key_released(Key::space);
+      break;
     case WM_SETCURSOR:
       if (LOWORD(l) == HTCLIENT && show_pointer(reinterpret_cast<HWND>(w))) return 1;
       break;

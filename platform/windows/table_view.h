@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 #include "painting/composition.h"
 #include "seam/window.h"
@@ -28,8 +30,15 @@ class TableView : public NativeWindow {
   /// Has painted what changed on the surface: soon, or at once without serving events.
   void show_changes();
   void show_changes_now();
+  void set_mark(const std::optional<Area>& area);
   void set_pointer(PointerShape shape);
   PointerShape pointer() const { return pointer_; }
+
+  bool wants_places() const { return false; }
+  void set_places(const std::vector<TablePlace>&, int) {}
+
+  /// A key that whoever has the keyboard has no use for: help and escape are the table's anywhere.
+  bool take_key_from_elsewhere(WPARAM key);
 
  protected:
   LRESULT message(UINT message, WPARAM w, LPARAM l) override;
@@ -40,6 +49,8 @@ class TableView : public NativeWindow {
   void paint();
   void pressed(Button button, LPARAM place);
   void moved(LPARAM place);
+  bool key(UINT message, WPARAM key, LPARAM l);
+  void repaint_mark();
   bool show_pointer(HWND under) const;
   Point logical(LPARAM place) const;
 
@@ -52,6 +63,7 @@ class TableView : public NativeWindow {
   painting::PixelSize room_;
   painting::Region stale_;  ///< to be painted into the buffer
   bool stale_sizes_ = false;
+  std::optional<Area> mark_;
   PointerShape pointer_ = PointerShape::arrow;
   std::function<void()> follower_;
   std::function<void()> first_paint_;

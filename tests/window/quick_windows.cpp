@@ -27,8 +27,8 @@ std::wstring without_key(std::wstring caption) {
 }
 
 std::wstring text_of(HWND window) {
-  wchar_t text[200] = {};
-  GetWindowTextW(window, text, 200);
+  wchar_t text[1000] = {};
+  GetWindowTextW(window, text, 1000);
   return text;
 }
 
@@ -100,7 +100,9 @@ void add_box(Line& line, HWND box) {
   line.add("box", words.substr(0, words.find('\n')));
 }
 
-void add_screen(Line& line, HWND frame) {
+void add_screen(Line& line, DesktopWindow& window) {
+  const HWND frame = window.handle();
+  const HWND chronicle = window.line().handle();
   Shown shown;
   EnumThreadWindows(GetCurrentThreadId(), note_window, reinterpret_cast<LPARAM>(&shown));
   if (shown.box != nullptr && GetForegroundWindow() == shown.box) {
@@ -118,15 +120,16 @@ void add_screen(Line& line, HWND frame) {
     ClientToScreen(frame, &corner);
     const int bar_height = static_cast<int>(corner.y - bar.rcBar.top) + 1;  // and its line
     line.add("width", inside.width()).add("height", inside.height() + bar_height);
-    line.add("bar", bar_height);
+    line.add("bar", bar_height).add("line", client_pixels(chronicle).height());
   }
+  line.add("chronicle", utf8(text_of(chronicle)));
   line.add("minimised", IsIconic(frame) != 0);
   line.add("ready", IsZoomed(frame) && GetForegroundWindow() == frame);
   add_entries(line, frame, GetMenu(frame));
   line.add("checks", checks(GetMenu(frame)));
-  for (const HWND window : shown.menus) {
-    const LRESULT menu = SendMessageW(window, kMenuOf, 0, 0);
-    add_entries(line, window, reinterpret_cast<HMENU>(menu));
+  for (const HWND popup : shown.menus) {
+    const LRESULT menu = SendMessageW(popup, kMenuOf, 0, 0);
+    add_entries(line, popup, reinterpret_cast<HMENU>(menu));
   }
 }
 
@@ -169,7 +172,7 @@ int wmain(int argc, wchar_t** argv) {
     Line line("game");  // all in one, so that a reader sees one moment
     add_state(line, program.state());
     add_window(line, desktop.window());
-    add_screen(line, desktop.window().handle());
+    add_screen(line, desktop.window());
     game.tell(line.text());
   };
   const UINT_PTR looks = SetTimer(nullptr, 0, 15, on_time);
