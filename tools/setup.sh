@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that playing, checking, packaging or fuzzing needs, if any are
-# missing.
-# Usage: tools/setup.sh play|check|package|fuzz
+# Installs the Debian packages that playing, checking, packaging or fuzzing needs, or building for
+# Windows and trying that out under wine, if any are missing.
+# Usage: tools/setup.sh play|check|package|fuzz|windows|wine
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev libsdl2-mixer-dev
-          libasound2-dev libdbus-1-dev libfluidsynth-dev libutfcpp-dev fonts-liberation
+          libasound2-dev libdbus-1-dev libfluidsynth-dev libutfcpp-dev libagg-dev fonts-liberation
           fonts-urw-base35 timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev libfluidsynth-dev clang-format xvfb openbox
@@ -18,6 +18,11 @@ fi
 if [ "${1:-}" = fuzz ]; then
   packages+=(clang)
 fi
+case "${1:-}" in
+  windows | wine)
+    packages=(g++ cmake ninja-build g++-mingw-w64-x86-64-posix libagg-dev libutfcpp-dev googletest nsis) ;;&
+  wine) packages+=(wine wine64) ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do

@@ -23,7 +23,7 @@ int rank_by_shape(const std::string& slice) {
 
 int suit_by_shape(const std::vector<int>& hand) {
   int chosen = 0;
-  auto best = 0L;
+  std::ptrdiff_t best = 0;
   for (int suit = 1; suit <= 4; ++suit) {
     const auto slice = slice_text(hand, suit);
     const auto gaps = std::count(slice.begin(), slice.end(), '_');

@@ -15,13 +15,19 @@ namespace {
 using Clock = std::chrono::steady_clock;
 namespace files = std::filesystem;
 
+// The build of the program for Windows, if that is the one to be played, under wine.
+const char* const kWindows = std::getenv("TOMBRELLO_WINDOWS");
+
 #ifdef __SANITIZE_ADDRESS__
 constexpr int kPatience = 5;
 #else
-constexpr int kPatience = 1;
+const int kPatience = kWindows == nullptr ? 1 : 3;
 #endif
 
 constexpr const char* kScreenSize = "1024x768x24";
+
+// Sound that goes nowhere.
+constexpr const char* kSilence = "pcm.!default {type null}\nctl.!default {type null}\n";
 
 // Two keys, and nothing else of the window manager's own. By its own lights it would take each
 // press first, to give the window focus, and on a busy machine hand it on after the keys that
@@ -124,7 +130,21 @@ void DesktopSession::SetUp() {
   }
   environment.insert("LC_ALL", "C.UTF-8");
   environment.insert("SDL_AUDIODRIVER", "dummy");
+  if (kWindows != nullptr) prepare_wine();
   start_screen();
+}
+
+// Its world stays where it is; only the screen and the sound are the test's own.
+void DesktopSession::prepare_wine() {
+  const QString home = qEnvironmentVariable("HOME") + "/.cache/tombrello/wine";
+  environment.insert("WINEPREFIX", qEnvironmentVariable("WINEPREFIX", home));
+  environment.insert("ALSA_CONFIG_PATH", QString::fromStdString(folder / "silence"));
+  std::ofstream(folder / "silence") << kSilence;
+}
+
+std::vector<std::string> DesktopSession::under_wine(std::vector<std::string> words) {
+  words.insert(words.begin(), TOMBRELLO_WINE);
+  return words;
 }
 
 void DesktopSession::start_screen() {
@@ -144,6 +164,7 @@ void DesktopSession::start_screen() {
 
 void DesktopSession::TearDown() {
   if (HasFailure() && game) std::fputs((view.everything() + err + "\n").c_str(), stderr);
+  if (kWindows != nullptr) run({"wineserver", "-k"});
   for (auto* process : {&game, &manager_, &screen_}) {
     if (!*process) continue;
     (*process)->kill();
@@ -155,13 +176,24 @@ void DesktopSession::TearDown() {
 }
 
 void DesktopSession::start_quick(Quick quick) {
-  start({TOMBRELLO_QUICK, folder, std::to_string(quick.clock), std::to_string(quick.deal),
-         std::to_string(quick.turns)});
+  const std::vector<std::string> numbers = {
+      folder, std::to_string(quick.clock), std::to_string(quick.deal), std::to_string(quick.turns)};
+  std::vector<std::string> words = {TOMBRELLO_QUICK};
+  if (kWindows != nullptr) {
+    words = under_wine({kWindows + std::string("/tests/window/tombrello-quick.exe")});
+  }
+  words.insert(words.end(), numbers.begin(), numbers.end());
+  start(words);
   wait_until("the opening picture",
              [](const View& v) { return v.number("opening") == 1 && v.number("ready") == 1; });
 }
 
 void DesktopSession::start_shipped() {
+  if (kWindows != nullptr) {
+    files::copy_file(kWindows + std::string("/Tombrello.exe"), folder / "Tombrello.exe",
+                     files::copy_options::overwrite_existing);
+    return start(under_wine({folder / "Tombrello.exe"}));
+  }
   files::copy_file(TOMBRELLO, folder / "tombrello", files::copy_options::overwrite_existing);
   start({folder / "tombrello"});
 }
@@ -278,6 +310,8 @@ void DesktopSession::type(const std::string& text) {
 
 void DesktopSession::paste(const std::string& text) {
   run({"xclip", "-selection", "clipboard"}, text);
+  // Under wine it takes its way through another process.
+  if (kWindows != nullptr) comes_true([](const View&) { return false; }, Milliseconds(100));
   key("ctrl+v");
 }
 
@@ -326,7 +360,12 @@ int DesktopSession::pixel(const Shot& picture, float x, float y) {
   return picture.pixel(place.x, place.y);
 }
 
-void DesktopSession::send(int signal) const {
+// Under wine what asks the program to end is the end of the session.
+void DesktopSession::send(int signal) {
+  if (kWindows != nullptr) {
+    run(under_wine({"wineboot", "--end-session"}));
+    return;
+  }
   kill(static_cast<pid_t>(game->processId()), signal);
 }
 

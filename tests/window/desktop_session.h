@@ -55,8 +55,10 @@ struct Quick {
   int turns = 25;  ///< thousandths of all pauses after the deal
 };
 
-/// A screen of the test's own with a window manager, and the game on it. Presses are real ones,
-/// told in the table's logical units. What doesn't happen in time throws, which fails the test.
+/// A screen of the test's own with a window manager, and the game on it: the one for this system,
+/// or, where TOMBRELLO_WINDOWS names its build, the one for Windows, under wine. Presses are real
+/// ones, told in the table's logical units. What doesn't happen in time throws, which fails the
+/// test.
 class DesktopSession : public ::testing::Test {
  protected:
   using Milliseconds = std::chrono::milliseconds;
@@ -96,7 +98,7 @@ class DesktopSession : public ::testing::Test {
   /// The game ends soon, with status 0 and without a word.
   void expect_quiet_end(Milliseconds most = Milliseconds(1000));
   void expect_still_running();
-  void send(int signal) const;
+  void send(int signal);
   void freeze_screen() const;  ///< from here on it answers nobody
   std::string file(const std::string& name) const;
   int pixel(const Shot& shot, float x, float y);
@@ -119,6 +121,8 @@ class DesktopSession : public ::testing::Test {
   void listen(int milliseconds);
   void read_view();
   void start_screen();
+  void prepare_wine();
+  static std::vector<std::string> under_wine(std::vector<std::string> words);
   void find_size();
 
   std::unique_ptr<QProcess> screen_;

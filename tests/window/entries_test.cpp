@@ -205,7 +205,8 @@ class Entries : public PlayingSession, public ::testing::WithParamInterface<Mome
       press_screen(caption);
       if (!enabled) {
         expect_change(moment, before, {{"popup", "1"}});
-        press_screen("Partita");
+        key("Escape");
+        key("Escape");
         expect_change(moment, before, {});
       } else if (std::string(entry) == "replay") {
         expect_change(moment, before, {{"box", "Nessuna mano è stata ancora giocata"}});

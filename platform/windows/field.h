@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "seam/window.h"
+#include "windows/control.h"
+
+namespace tombrello::windows {
+
+/// The system's own field for one line of text.
+class Field : public Control {
+ public:
+  Field(ControlId id, FieldRule rule, const Font& font, TableView& table, WindowEvents& events);
+  Field(const Field&) = delete;
+  Field& operator=(const Field&) = delete;
+  ~Field() override;
+
+  HWND window() const override { return edit_; }
+  void fit(const Area& area, const TableView& table) override;
+  void set_text(const std::string& text);
+
+ private:
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
+                                    DWORD_PTR self);
+  void edited();
+  void to_next_field();
+  void put(const std::wstring& text);
+  std::wstring allowed(const std::wstring& raw, int characters_already) const;
+
+  ControlId id_;
+  FieldRule rule_;
+  Font font_;
+  TableView& table_;
+  WindowEvents& events_;
+  HWND edit_;
+  bool putting_ = false;
+};
+
+}  // namespace tombrello::windows

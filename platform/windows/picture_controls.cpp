@@ -1,0 +1,150 @@
+#include "windows/picture_controls.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "raster/rasteriser.h"
+
+namespace tombrello::windows {
+namespace {
+
+using painting::PixelRect;
+
+void show(HWND window, const BackBuffer& buffer) {
+  PAINTSTRUCT shown{};
+  const HDC screen = BeginPaint(window, &shown);
+  buffer.show(screen, shown.rcPaint);
+  EndPaint(window, &shown);
+}
+
+Rgba shade(Colour colour, int percent) {
+  const auto part = [=](unsigned shift) {
+    const int value = static_cast<int>(colour >> shift & 0xFF) * percent / 100;
+    return static_cast<std::uint8_t>(std::min(value, 255));
+  };
+  return {part(0), part(8), part(16)};
+}
+
+Shape box(float width, float height, float inset) {
+  Shape shape;
+  shape.path.move({inset, inset});
+  shape.path.line({width - inset, inset});
+  shape.path.line({width - inset, height - inset});
+  shape.path.line({inset, height - inset});
+  shape.path.close();
+  return shape;
+}
+
+// A raised bar with a tick: without a word it says that a press on it agrees.
+Drawing bar_with_tick(Colour colour, float width, float height) {
+  Shape bar = box(width, height, 0.5F);
+  bar.fill.kind = Paint::Kind::linear;
+  bar.fill.to = {0, height};
+  bar.fill.stops = {{0, shade(colour, 170)}, {0.45F, shade(colour, 100)}, {1, shade(colour, 75)}};
+  bar.stroke_width = 1;
+  bar.stroke = shade(colour, 45);
+  Shape tick;
+  const float unit = height / 10;
+  const Point middle{width / 2, height / 2};
+  tick.path.move({middle.x - 3.2F * unit, middle.y + 0.2F * unit});
+  tick.path.line({middle.x - 0.9F * unit, middle.y + 2.5F * unit});
+  tick.path.line({middle.x + 3.6F * unit, middle.y - 2.5F * unit});
+  tick.filled = false;
+  tick.stroke_width = 1.6F * unit;
+  tick.stroke = {255, 255, 255};
+  return {width, height, {bar, tick}};
+}
+
+void put(BackBuffer& buffer, const raster::Bitmap& image, const GdiLetters& letters,
+         Colour behind) {
+  const PixelRect all{0, 0, image.width, image.height};
+  buffer.resize({image.width, image.height});
+  GdiCanvas canvas(buffer, letters);
+  canvas.fill(all, behind);
+  canvas.picture(image, all, all);
+}
+
+}  // namespace
+
+ShapeControl::ShapeControl(Colour colour, TableView& table) : colour_(colour) {
+  create(L"TombrelloBar", kControlStyle, table.handle());
+}
+
+void ShapeControl::fit(const Area& area, const TableView& table) {
+  const PixelRect place = table.geometry().pixels(area);
+  move_to(handle(), place);
+  if (place.empty()) return;
+  const Drawing bar =
+      bar_with_tick(colour_, static_cast<float>(place.width()), static_cast<float>(place.height()));
+  put(buffer_, raster::rasterise(bar, place.width(), place.height()), table.letters(), kFelt);
+  InvalidateRect(handle(), nullptr, FALSE);
+}
+
+LRESULT ShapeControl::message(UINT message, WPARAM w, LPARAM l) {
+  switch (message) {
+    case WM_NCHITTEST:
+      return HTTRANSPARENT;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT:
+      show(handle(), buffer_);
+      return 0;
+    default:
+      return NativeWindow::message(message, w, l);
+  }
+}
+
+PictureControl::PictureControl(ControlId id, Picture picture, TableView& table,
+                               WindowEvents& events)
+    : id_(id), picture_(picture), table_(table), events_(events) {
+  create(L"TombrelloPicture", kControlStyle, table.handle());
+}
+
+void PictureControl::fit(const Area& area, const TableView& table) {
+  move_to(handle(), table.geometry().picture_pixels(area));
+  InvalidateRect(handle(), nullptr, FALSE);
+}
+
+// Not before it is seen: a window that is dragged larger takes many sizes.
+void PictureControl::paint() {
+  const PixelRect place = client_pixels(handle());
+  const painting::PixelSize size{place.width(), place.height()};
+  if (buffer_.memory().size != size) {
+    put(buffer_, table_.pictures().rendered({picture_, false, false, size}).image, table_.letters(),
+        table_.surface().background());
+  }
+  show(handle(), buffer_);
+}
+
+void PictureControl::shown(bool visible) {
+  if (visible) SetFocus(handle());
+}
+
+LRESULT PictureControl::message(UINT message, WPARAM w, LPARAM l) {
+  switch (message) {
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_LBUTTONDOWN:
+      SetFocus(handle());
+      return 0;
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
+      events_.control_clicked(id_);
+      return 0;
+    case WM_KEYDOWN:
+      if (w == VK_F1) table_.take_key_from_elsewhere(w);
+      return 0;
+    case WM_CHAR:
+      events_.control_key_pressed(id_);
+      return 0;
+    default:
+      return NativeWindow::message(message, w, l);
+  }
+}
+
+}  // namespace tombrello::windows

@@ -1,0 +1,2 @@
+// Numbers of what is bound into the program; the resource compiler reads this too.
+#define kProgramIcon 1
