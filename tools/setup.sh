@@ -9,7 +9,8 @@ packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev li
           fonts-urw-base35 timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev libfluidsynth-dev clang-format xvfb openbox
-             xdotool imagemagick x11-utils xclip desktop-file-utils libglib2.0-bin)
+             xdotool imagemagick x11-utils xclip desktop-file-utils libglib2.0-bin dbus at-spi2-core
+             gir1.2-atspi-2.0 python3-gi)
 fi
 if [ "${1:-}" = package ]; then
   packages+=(dpkg-dev debhelper lintian desktop-file-utils appstream libglib2.0-bin debootstrap

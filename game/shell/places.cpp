@@ -32,7 +32,11 @@ Place span(const Place& first, const Place& last) {
 
 std::vector<Spot> Places::spots() const {
   Spots spots;
-  if (s_.phase == Phase::opening) add(spots, "Tombrello: fai clic per cominciare", g_.opening());
+  if (s_.phase == Phase::opening) {
+    add(spots, "Tombrello: fai clic per cominciare", g_.opening());
+    spots.back().press = {g_.mezza_larghezza, g_.mezza_altezza};  // any press opens the game
+    spots.back().told.can_press = true;
+  }
   if (s_.phase == Phase::draw) add(spots, "Mazzo", g_.dealer_deck());
   if (s_.phase == Phase::count || s_.phase == Phase::match_over) add_scores(spots);
   if (s_.phase != Phase::hand) return spots;
