@@ -57,6 +57,24 @@ TEST_F(Table, AWholeHandFromTheDrawToTheNextDeal) {
   expect_still_running();
 }
 
+// The opening, the draw for dealer, every turn and every count: Tab to a place, Enter there.
+TEST_F(Table, AMatchIsPlayedWithKeysAlone) {
+  start_quick({.clock = clock_of_short_match(), .turns = 2});
+  const auto over = [](const View& v) {
+    const auto totals = v.numbers("totals");
+    return std::max(totals.at(0), totals.at(1)) >= kWinningTotal;
+  };
+  for (int strokes = 0; strokes < 1500 && !over(view); ++strokes) {
+    xdo({"key", "--delay", "10", "Tab", "Return"});
+    comes_true(over, Milliseconds(30));
+  }
+  EXPECT_TRUE(over(view)) << view.text("totals");
+  EXPECT_GT(view.number("round"), 1) << "Enter went on after a count";
+  const std::string told = view.text("chronicle");
+  EXPECT_TRUE(told.starts_with("Avete vinto") || told.starts_with("Partita a")) << told;
+  expect_still_running();
+}
+
 TEST_F(Table, ATieIsDrawnAgain) {
   Fortune fortune;
   start_quick({.clock = find_clock([&](const Fortune& f) {
