@@ -150,11 +150,13 @@ on_wayland() {
 }
 on_wayland weston --backend=headless-backend.so --socket=wayland-9 2>/dev/null >&2 &
 until_true 20 test -S "$root/home/$player/wayland-9"
-on_wayland WAYLAND_DEBUG=1 timeout --preserve-status 8 /usr/games/tombrello 2>"$work/wayland" ||
-  fail 'does not end well on Wayland'
+on_wayland WAYLAND_DEBUG=1 /usr/games/tombrello 2>"$work/wayland" &
+game=$!
+until_true 30 grep -q 'wl_surface@[0-9]*.attach(wl_buffer' "$work/wayland"
 grep -q 'set_title("Frassivo - Tombrello")' "$work/wayland" || fail 'no window on Wayland'
 grep -q 'set_app_id("tombrello")' "$work/wayland" || fail 'its window has no icon on Wayland'
-grep -q 'wl_surface@[0-9]*.attach(wl_buffer' "$work/wayland" || fail 'nothing painted on Wayland'
+kill "$(pgrep -x tombrello)"
+wait $game || { tail -n 5 "$work/wayland" && fail 'does not end well on Wayland'; }
 kill "$(pgrep -x weston)"
 until_true 10 eval '! pgrep -x weston >/dev/null'
 rm -f "$root/home/$player"/wayland-9*
