@@ -38,7 +38,7 @@ class Screen {
         pictures_(draw_picture),
         state_(some_hand()),
         window_(timer_),
-        table_(state_, geometry_, window_) {
+        table_(state_, places_, window_) {
     window_.surface().set_background(kFelt);
     state_.phase = Phase::hand;
     table_.repaint();
@@ -67,7 +67,7 @@ class Screen {
   TableGeometry geometry_;
   PictureCache pictures_;
   State state_;
-  Geometry geometry_;
+  Geometry places_;
   HeadlessTimer timer_;
   HeadlessWindow window_;
   PaintedTable table_;
