@@ -45,10 +45,10 @@ cmake --install build/play --strip --prefix "$out/Tombrello" >/dev/null
 ! grep -rl -e "$PWD" "$out/Tombrello" || refuse 'the portable folder tells where it was built'
 pack "tombrello-$version-linux-$(uname -m).tar.gz" Tombrello
 
-if [ -x tools/windows/build.sh ]; then
-  echo '== Windows'
-  tools/windows/build.sh "$out"
-fi
+echo '== Windows'
+tools/windows/build.sh
+tools/windows/package.sh >/dev/null
+mv build/windows/package/*.zip build/windows/package/*.exe "$out"
 
 cd "$out"
 sums=$(sha256sum -- *)

@@ -72,16 +72,32 @@ bool write_whole(const std::wstring& path, const std::string& content) {
          written == size && FlushFileBuffers(file.handle());
 }
 
+Trouble trouble_of(DWORD error) {
+  switch (error) {
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+      return Trouble::full;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_WRITE_PROTECT:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_PATH_NOT_FOUND:
+      return Trouble::refused;
+    default:
+      return Trouble::broken;
+  }
+}
+
 // The old file, or the new one: whatever happens meanwhile.
-bool replace_file(const std::wstring& path, const std::string& content) {
+Trouble replace_file(const std::wstring& path, const std::string& content) {
   const std::wstring fresh = path + L".new";
   if (write_whole(fresh, content) &&
       MoveFileExW(fresh.c_str(), path.c_str(),
                   MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-    return true;
+    return Trouble::none;
   }
+  const Trouble trouble = trouble_of(GetLastError());
   DeleteFileW(fresh.c_str());
-  return false;
+  return trouble;
 }
 
 // This form has no bound on its length, and no names that mean devices.
@@ -134,12 +150,15 @@ std::optional<std::string> DiskArchive::read(const std::string& name, std::size_
 
 bool DiskArchive::replace(const std::string& name, const std::string& content) {
   const std::wstring beside = path_in(program_folder_, name);
-  if (can_keep(beside)) return replace_file(beside, content);
+  trouble_ = can_keep(beside) ? replace_file(beside, content) : Trouble::refused;
+  if (trouble_ == Trouble::none) return true;
   CreateDirectoryW(unbounded(user_folder_).c_str(), nullptr);
-  return replace_file(path_in(user_folder_, name), content);
+  const Trouble with_user = replace_file(path_in(user_folder_, name), content);
+  if (with_user == Trouble::none || trouble_ == Trouble::refused) trouble_ = with_user;
+  return trouble_ == Trouble::none;
 }
 
-std::vector<std::string> DiskArchive::list(const std::string& folder) {
+std::vector<std::string> DiskArchive::list(const std::string& folder, std::size_t most) {
   WIN32_FIND_DATAW found{};
   const HANDLE search = FindFirstFileW(path_in(program_folder_, folder + "/*").c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return {};
@@ -151,6 +170,7 @@ std::vector<std::string> DiskArchive::list(const std::string& folder) {
   } while (FindNextFileW(search, &found));
   FindClose(search);
   std::sort(names.begin(), names.end());
+  if (names.size() > most) names.resize(most);
   std::vector<std::string> told;
   for (const std::wstring& name : names) told.push_back(utf8(name));
   return told;

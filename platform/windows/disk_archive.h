@@ -14,11 +14,13 @@ class DiskArchive : public Archive {
 
   std::optional<std::string> read(const std::string& name, std::size_t most) override;
   bool replace(const std::string& name, const std::string& content) override;
-  std::vector<std::string> list(const std::string& folder) override;
+  Trouble trouble() const override { return trouble_; }
+  std::vector<std::string> list(const std::string& folder, std::size_t most) override;
 
  private:
   std::wstring program_folder_;
   std::wstring user_folder_;
+  Trouble trouble_ = Trouble::none;
 };
 
 /// Where the running program lies.

@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
-version=1.0.0
+version=$(sed -n 's/^project(tombrello VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 package=$PWD/build/windows/package
 folder=$package/Tombrello
 rm -rf "$package"
