@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "match/dead_hand.h"
 #include "told/card_names.h"
 #include "told/refusals.h"
 
@@ -67,7 +68,10 @@ std::string Chronicle::now() const {
 }
 
 std::string Chronicle::own_turn() const {
-  if (!s_.ha_pescato) return "Tocca a te: pesca dal Pozzo o dal Tallone";
+  if (!s_.ha_pescato) {
+    const std::string draw = "Tocca a te: pesca dal Pozzo o dal Tallone";
+    return nobody_can_go_out(s_) ? draw + " (nessuno può più chiudere)" : draw;
+  }
   if (s_.n_mano[1] == 1) return "Ultima carta: fai clic per scartarla e chiudere";
   switch (selected_cards(s_)) {
     case 0:

@@ -66,6 +66,12 @@ TEST_F(ChronicleTest, TellsWhatTheOthersDidSinceTheOwnDiscard) {
 TEST_F(ChronicleTest, TellsWhatCanBeDoneNow) {
   EXPECT_EQ(now(), "Gioca OVEST");
   s_.di_turno = 1;
+  s_.n_mano = {0, 1, 3, 3, 3};
+  s_.tallone = kCards;
+  s_.mazzo[kCards] = 1;
+  for (auto& hand : s_.mano) hand.fill(2);
+  EXPECT_EQ(now(), "Tocca a te: pesca dal Pozzo o dal Tallone (nessuno può più chiudere)");
+  s_.mano = {};
   s_.n_mano[1] = 13;
   EXPECT_EQ(now(), "Tocca a te: pesca dal Pozzo o dal Tallone");
   s_.ha_pescato = true;

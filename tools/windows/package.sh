@@ -11,6 +11,7 @@ rm -rf "$package"
 mkdir -p "$folder"
 cp build/windows/Tombrello.exe "$folder"
 cp -r assets/sounds assets/music "$folder"
+cp /usr/share/doc/libagg-dev/copyright "$folder/AGG.txt"  # its notice goes where its code goes
 sed 's/$/\r/' LEGGIMI.md >"$folder/LEGGIMI.txt"
 sed 's/$/\r/' packaging/windows/NOTICES.txt >"$folder/NOTICES.txt"
 # The modes of a checkout, and the days on which it was made, say nothing.
