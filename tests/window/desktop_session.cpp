@@ -315,6 +315,17 @@ void DesktopSession::paste(const std::string& text) {
   key("ctrl+v");
 }
 
+// The window manager's own key: one that comes while it still moves the focus is lost on it.
+void DesktopSession::maximise_or_not() {
+  const int width = view.number("width");
+  for (int tries = 0; tries < 3; ++tries) {
+    key("alt+F10");
+    if (comes_true([&](const View& v) { return v.number("width") != width; }, Milliseconds(3000))) {
+      return;
+    }
+  }
+}
+
 void DesktopSession::resize(int width, int height) {
   xdo({"windowsize", window, std::to_string(width), std::to_string(height)});
   wait_for("width", width);

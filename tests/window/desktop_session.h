@@ -91,7 +91,7 @@ class DesktopSession : public ::testing::Test {
   Outcome run(const std::vector<std::string>& words, const std::string& input = {});
 
   void resize(int width, int height);  ///< once the window isn't maximised any more
-  void maximise_or_not() { key("alt+F10"); }
+  void maximise_or_not();
   void close_by_frame() { key("alt+F4"); }
   void dismiss_opening();
 
