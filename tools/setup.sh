@@ -8,7 +8,7 @@ packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev li
           libasound2-dev libdbus-1-dev libfluidsynth-dev libutfcpp-dev libagg-dev fonts-liberation
           fonts-urw-base35 timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
-  packages+=(libgtest-dev libbenchmark-dev libfluidsynth-dev clang-format xvfb openbox
+  packages+=(libgtest-dev libbenchmark-dev libfluidsynth-dev clang-format clang-tidy xvfb openbox
              xdotool imagemagick x11-utils xclip desktop-file-utils libglib2.0-bin dbus at-spi2-core
              gir1.2-atspi-2.0 python3-gi)
 fi

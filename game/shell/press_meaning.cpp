@@ -57,8 +57,8 @@ Place Pointer::meld_for(int side, float x) const {
   auto list = s_.calate[side];
   const int n = s_.n_calate[side];
   if (n + 2 > kListPositions) return {};
-  list[static_cast<std::size_t>(n + 1)] = 1;
-  list[static_cast<std::size_t>(n + 2)] = kSentinel;
+  list[static_cast<std::size_t>(n) + 1] = 1;
+  list[static_cast<std::size_t>(n) + 2] = kSentinel;
   const int last = g_.click_strip_at(list, n + 2, x).last_card;
   if (last == 0) return {};
   Place meld = g_.strip_card(side, meld_up_to(list, last).first);

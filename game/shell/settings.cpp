@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kSettingsFile = "config.zvq";
 constexpr const char* kPlayersFile = "Players";
 // Many times the size of a whole file; what lies beyond can't hold a field.
-constexpr std::size_t kMostBytes = 64 * 1024;
+constexpr std::size_t kMostBytes = std::size_t{64} * 1024;
 
 const std::array<std::string, kSeats> kFirstNames = {"TU", "OVEST", "NORD", "EST"};
 constexpr double kLeastScale = 25;
