@@ -1,0 +1,63 @@
+#include <fstream>
+
+#include "player.h"
+
+namespace tombrello {
+namespace {
+
+namespace files = std::filesystem;
+
+/// What the game holds of the machine.
+struct Holds {
+  long kib = 0;  ///< its proportional share of memory
+  long descriptors = 0;
+};
+
+class Memory : public PlayingSession {
+ protected:
+  Holds holds() {
+    const files::path process = "/proc/" + std::to_string(game->processId());
+    Holds held;
+    std::ifstream rollup(process / "smaps_rollup");
+    for (std::string word; rollup >> word && word != "Pss:";) continue;
+    rollup >> held.kib;
+    held.descriptors = std::distance(files::directory_iterator(process / "fd"), {});
+    return held;
+  }
+};
+
+// One hand after the other; a match that is over is followed by a run of another. The first hands
+// fill what is kept on purpose. TOMBRELLO_HANDS asks for more of them.
+TEST_F(Memory, HandsLeaveNothingBehind) {
+  const char* const asked = std::getenv("TOMBRELLO_HANDS");
+  const int wanted = asked == nullptr ? 4 : std::atoi(asked);
+  int hands = 0;
+  int runs = 0;
+  while (hands < wanted) {
+    int found = 0;
+    begin({.clock = find_clock([&](const Fortune& f) { return f.dealer != 0 && found++ == runs; }),
+           .turns = 2});
+    ++runs;
+    Holds before;
+    for (int hand = 1; hands < wanted; ++hand, ++hands) {
+      play_hand(false);
+      if (hand == 3) before = holds();
+      if (view.number("continue") != 1) break;
+      key("Return");
+      wait_for("round", hand + 1);
+    }
+    const Holds after = holds();
+    if (before.kib > 0) {
+      EXPECT_LT(after.kib - before.kib, 2048) << "run " << runs;
+      EXPECT_EQ(after.descriptors, before.descriptors);
+      std::printf("growth %ld KiB from %ld, %ld descriptors\n", after.kib - before.kib, before.kib,
+                  after.descriptors);
+    }
+    game->kill();
+    game->waitForFinished(5000);
+  }
+  std::printf("hands %d\n", hands);
+}
+
+}  // namespace
+}  // namespace tombrello
