@@ -8,7 +8,8 @@
 
 #include "headless/headless_window.h"
 #include "pictures/pictures.h"
-#include "qt/surface_painter.h"
+#include "qt/canvas.h"
+#include "qt/geometry.h"
 #include "table/painted_table.h"
 #include "tools/simulation/simulation.h"
 
@@ -43,29 +44,28 @@ class Screen {
     state_.phase = Phase::hand;
     table_.repaint();
     window_.surface().take_changes();
-    paint(image_.rect());
+    paint(geometry_.table());
   }
 
   void redraw_fan() {
     table_.ridisegno_carte();
-    QRegion changed;
-    for (const Item& item : window_.surface().take_changes().items) {
-      changed += changed_pixels(item, geometry_);
-    }
-    paint(changed);
+    paint(painting::changed_pixels(window_.surface().take_changes(), geometry_, letters_,
+                                   geometry_.table()));
   }
-  void paint_whole() { paint(image_.rect()); }
+  void paint_whole() { paint(geometry_.table()); }
   double megabytes() const { return static_cast<double>(pictures_.bytes()) / 1e6; }
 
  private:
-  void paint(const QRegion& region) {
+  void paint(const painting::Region& region) {
     QPainter painter(&image_);
-    paint_surface(painter, window_.surface(), geometry_, region, pictures_);
+    QtCanvas canvas(painter);
+    paint_surface(canvas, letters_, window_.surface(), geometry_, region, pictures_);
   }
 
   QImage image_;
   TableGeometry geometry_;
-  PictureCache pictures_;
+  painting::PictureCache pictures_;
+  QtLetters letters_;
   State state_;
   Geometry places_;
   HeadlessTimer timer_;

@@ -29,6 +29,8 @@ if(TOMBRELLO_DATA)
   install(DIRECTORY ${PROJECT_BINARY_DIR}/hicolor DESTINATION share/icons)
 else()
   install(FILES LEGGIMI.md docs/pictures/tombrello.png DESTINATION .)
+  # The notice of the library whose headers turn drawings into pixels.
+  install(FILES /usr/share/doc/libagg-dev/copyright DESTINATION . RENAME AGG.txt)
   install(PROGRAMS packaging/desktop-entry.sh DESTINATION .)
   install(PROGRAMS ${PROJECT_BINARY_DIR}/tombrello.desktop DESTINATION . RENAME Tombrello.desktop)
   install(CODE "cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX OUTPUT_VARIABLE home)

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "qt/surface_painter.h"
+#include "qt/canvas.h"
 #include "qt/table_widget.h"
 #include "qt/text_style.h"
 
@@ -173,7 +173,7 @@ void ShapeControl::fit(const Area& area, const TableGeometry& geometry) {
 }
 
 PictureControl::PictureControl(ControlId id, Picture picture, QWidget& parent,
-                               PictureCache& pictures, WindowEvents& events)
+                               painting::PictureCache& pictures, WindowEvents& events)
     : QWidget(&parent), id_(id), picture_(picture), pictures_(pictures), events_(events) {
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::ArrowCursor);
@@ -187,12 +187,12 @@ void PictureControl::fit(const Area& area, const TableGeometry& geometry) {
 }
 
 void PictureControl::paintEvent(QPaintEvent*) {
-  if (pixels_.isEmpty()) return;
+  if (pixels_.empty()) return;
   QPainter painter(this);
   painter.translate(-pos());
   use_true_pixels(painter, ratio_);
-  const Look look{picture_, false, false, pixels_.size()};
-  painter.drawImage(pixels_.topLeft(), pictures_.rendered(look).image);
+  const painting::Look look{picture_, false, false, {pixels_.width(), pixels_.height()}};
+  painter.drawImage(to_qrect(pixels_).topLeft(), view_of(pictures_.rendered(look).image));
 }
 
 void PictureControl::mousePressEvent(QMouseEvent* event) {

@@ -4,8 +4,8 @@
 #include <QTextEdit>
 #include <QWidget>
 
+#include "painting/picture_cache.h"
 #include "qt/geometry.h"
-#include "qt/picture_cache.h"
 #include "seam/window.h"
 
 namespace tombrello::qt {
@@ -75,7 +75,7 @@ class ShapeControl : public QWidget, public Control {
 /// A picture that can be clicked, and that takes the keyboard while it shows.
 class PictureControl : public QWidget, public Control {
  public:
-  PictureControl(ControlId id, Picture picture, QWidget& parent, PictureCache& pictures,
+  PictureControl(ControlId id, Picture picture, QWidget& parent, painting::PictureCache& pictures,
                  WindowEvents& events);
   QWidget& widget() override { return *this; }
   void fit(const Area& area, const TableGeometry& geometry) override;
@@ -90,9 +90,9 @@ class PictureControl : public QWidget, public Control {
  private:
   ControlId id_;
   Picture picture_;
-  PictureCache& pictures_;
+  painting::PictureCache& pictures_;
   WindowEvents& events_;
-  QRect pixels_;  ///< in the table's pixels
+  painting::PixelRect pixels_;  ///< the table's
   double ratio_ = 1;
 };
 

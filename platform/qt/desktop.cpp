@@ -77,7 +77,7 @@ Desktop::Application::Application(int& argc, char** argv) : QApplication(argc, a
   std::setlocale(LC_NUMERIC, "C");
 }
 
-Desktop::Desktop(int& argc, char** argv, PictureSource pictures, const IconSource& icon)
+Desktop::Desktop(int& argc, char** argv, painting::PictureSource pictures, const IconSource& icon)
     : messages_(before_start()),
       application_(argc, argv),
       window_(std::move(pictures), icon),

@@ -31,7 +31,7 @@ class Desktop {
  public:
   /// `pictures` answers the vectors of any picture; `icon` the program's at
   /// any number of pixels.
-  Desktop(int& argc, char** argv, PictureSource pictures, const IconSource& icon);
+  Desktop(int& argc, char** argv, painting::PictureSource pictures, const IconSource& icon);
 
   Window& window() { return window_; }
   Timer& timer() { return timer_; }

@@ -69,7 +69,7 @@ void DesktopWindow::Frame::stay_on_screen() {
   move(free.topLeft());
 }
 
-DesktopWindow::DesktopWindow(PictureSource pictures, const IconSource& icon)
+DesktopWindow::DesktopWindow(painting::PictureSource pictures, const IconSource& icon)
     : table_(new TableWidget(std::move(pictures), relay_)),
       line_(new ChronicleLine(nullptr)),
       overlay_(*table_, relay_) {

@@ -6,11 +6,11 @@
 #include <string>
 
 #include "qt/chronicle_line.h"
-#include "qt/event_relay.h"
 #include "qt/menus.h"
 #include "qt/overlay.h"
 #include "qt/table_widget.h"
 #include "seam/drawing.h"
+#include "seam/event_relay.h"
 #include "seam/window.h"
 
 namespace tombrello::qt {
@@ -21,7 +21,7 @@ using IconSource = std::function<Drawing(int)>;
 /// The program's window on a Qt desktop. Needs the application object as long as it lives.
 class DesktopWindow : public Window {
  public:
-  DesktopWindow(PictureSource pictures, const IconSource& icon);
+  DesktopWindow(painting::PictureSource pictures, const IconSource& icon);
 
   void set_events(WindowEvents* events) override { relay_.set_target(events); }
   Surface& surface() override { return table_->surface(); }

@@ -5,18 +5,18 @@
 #include <QPainter>
 #include <QTimer>
 #include <QtMath>
+#include <chrono>
 #include <utility>
 
+#include "painting/mark.h"
 #include "qt/accessible_table.h"
-#include "qt/mark_painter.h"
-#include "qt/surface_painter.h"
 
 namespace tombrello::qt {
 namespace {
 
 // While the window is being dragged to another size, a paint renders so many milliseconds of
 // pictures; those that are left are stretched for the moment and follow in the next paint.
-constexpr int kPatience = 30;
+constexpr auto kPatience = std::chrono::milliseconds(30);
 
 std::optional<Key> key_of(const QKeyEvent& event) {
   const auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -59,13 +59,13 @@ Button button_of(Qt::MouseButton button) {
 }
 
 // A pixel more on each side: where the ratio is no whole number, edges fall between pixels.
-QRegion region_in_pixels(const QRegion& region, double ratio) {
-  QRegion pixels;
+painting::Region region_in_pixels(const QRegion& region, double ratio) {
+  painting::Region pixels;
   for (const QRect& part : region) {
-    pixels +=
+    pixels.add(to_region(
         QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
             .toAlignedRect()
-            .adjusted(-1, -1, 1, 1);
+            .adjusted(-1, -1, 1, 1)));
   }
   return pixels;
 }
@@ -79,7 +79,7 @@ void use_true_pixels(QPainter& painter, double ratio) {
   painter.scale(1 / ratio, 1 / ratio);
 }
 
-TableWidget::TableWidget(PictureSource source, WindowEvents& events)
+TableWidget::TableWidget(painting::PictureSource source, WindowEvents& events)
     : events_(events), pictures_(std::move(source)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -108,15 +108,20 @@ void TableWidget::follow_screen() {
   update();
 }
 
+// A pixel more on each side, as above.
+QRegion TableWidget::to_widget(const painting::Region& pixels) const {
+  QRegion region;
+  for (const painting::PixelRect& part : pixels.rects()) {
+    region += geometry_.widget_rect(part).adjusted(-1, -1, 1, 1);
+  }
+  return region & rect();
+}
+
 QRegion TableWidget::changed_region() {
   follow_screen();
   const Surface::Changes changes = surface_.take_changes();
   if (changes.everything) return rect();
-  QRegion region;
-  for (const Item& item : changes.items) {
-    region += geometry_.widget_rect(changed_pixels(item, geometry_)).adjusted(-1, -1, 1, 1);
-  }
-  return region & rect();
+  return to_widget(painting::changed_pixels(changes, geometry_, letters_, geometry_.table()));
 }
 
 void TableWidget::show_changes() {
@@ -130,12 +135,10 @@ void TableWidget::show_changes_now() {
 }
 
 QRegion TableWidget::mark_region() const {
-  QRegion region;
-  if (!mark_) return region;
-  for (const QRect& part : mark_pixels(*mark_, geometry_)) {
-    region += geometry_.widget_rect(part).adjusted(-1, -1, 1, 1);
-  }
-  return region & rect();
+  painting::Region sides;
+  if (!mark_) return {};
+  for (const auto& side : painting::mark_pixels(*mark_, geometry_)) sides.add(side);
+  return to_widget(sides);
 }
 
 // Only the outline is painted anew, where it was and where it is.
@@ -156,12 +159,14 @@ void TableWidget::set_places(const std::vector<TablePlace>& places, int focus) {
 void TableWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   use_true_pixels(painter, geometry_.ratio());
-  const QRegion exposed = region_in_pixels(event->region(), geometry_.ratio());
-  const QRegion drafts =
-      paint_surface(painter, surface_, geometry_, exposed, pictures_, QDeadlineTimer(kPatience));
-  for (const QRect& draft : drafts) update(geometry_.widget_rect(draft));
-  if (mark_) paint_mark(painter, *mark_, geometry_);
-  if (stale_sizes_ && drafts.isEmpty()) {
+  QtCanvas canvas(painter);
+  const painting::Region exposed = region_in_pixels(event->region(), geometry_.ratio());
+  const painting::Region drafts =
+      painting::paint_surface(canvas, letters_, surface_, geometry_, exposed, pictures_,
+                              std::chrono::steady_clock::now() + kPatience);
+  if (!drafts.empty()) update(to_widget(drafts));
+  if (mark_) painting::paint_mark(canvas, *mark_, geometry_);
+  if (stale_sizes_ && drafts.empty()) {
     pictures_.drop_unused();
     stale_sizes_ = false;
   }
@@ -173,9 +178,8 @@ void TableWidget::resizeEvent(QResizeEvent*) {
 }
 
 void TableWidget::mousePressEvent(QMouseEvent* event) {
-  const QPointF place = geometry_.logical(event->position());
-  events_.pressed(button_of(event->button()), static_cast<float>(place.x()),
-                  static_cast<float>(place.y()));
+  const Point place = geometry_.logical(event->position());
+  events_.pressed(button_of(event->button()), place.x, place.y);
 }
 
 // Qt sends it in the place of the second press.
@@ -184,8 +188,8 @@ void TableWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void TableWidget::mouseMoveEvent(QMouseEvent* event) {
-  const QPointF place = geometry_.logical(event->position());
-  events_.moved(static_cast<float>(place.x()), static_cast<float>(place.y()));
+  const Point place = geometry_.logical(event->position());
+  events_.moved(place.x, place.y);
 }
 
 // A key that a field or the opening picture has no use for comes here too: of those only help and

@@ -5,8 +5,8 @@
 #include <optional>
 #include <vector>
 
+#include "qt/canvas.h"
 #include "qt/geometry.h"
-#include "qt/picture_cache.h"
 #include "seam/surface.h"
 #include "seam/window.h"
 
@@ -18,10 +18,10 @@ void use_true_pixels(QPainter& painter, double ratio);
 /// Shows a surface, and reports presses and moves on it.
 class TableWidget : public QWidget {
  public:
-  TableWidget(PictureSource source, WindowEvents& events);
+  TableWidget(painting::PictureSource source, WindowEvents& events);
 
   Surface& surface() { return surface_; }
-  PictureCache& pictures() { return pictures_; }
+  painting::PictureCache& pictures() { return pictures_; }
   const TableGeometry& geometry_in_pixels() const { return geometry_; }
   /// Called whenever the table has moved or changed its size.
   void set_follower(std::function<void(const TableGeometry&)> follower);
@@ -57,12 +57,14 @@ class TableWidget : public QWidget {
 
  private:
   TableGeometry current_geometry() const;
+  QRegion to_widget(const painting::Region& pixels) const;
   QRegion changed_region();
   QRegion mark_region() const;
 
   WindowEvents& events_;
   Surface surface_;
-  PictureCache pictures_;
+  painting::PictureCache pictures_;
+  QtLetters letters_;
   TableGeometry geometry_{QSize(800, 600), 1, 96};
   std::function<void(const TableGeometry&)> follower_;
   std::function<void()> first_paint_;

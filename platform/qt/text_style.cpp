@@ -21,15 +21,16 @@ QFont control_font(const Font& font) {
   return result;
 }
 
-QFont table_font(const Font& font, const TableGeometry& geometry) {
+QFont table_font(const Font& font, const painting::TableGeometry& geometry) {
   QFont result = control_font(font);
   result.setBold(true);
-  result.setPixelSize(std::max(1, qRound(font.size * geometry.pixels_per_point())));
+  result.setPixelSize(geometry.letter_pixels(font));
   return result;
 }
 
-TextPlace text_place(const TextItem& item, const TableGeometry& geometry) {
-  QPoint top_left = geometry.pixel(item.x, item.y);
+TextPlace text_place(const TextItem& item, const painting::TableGeometry& geometry) {
+  const painting::PixelPlace corner = geometry.pixel(item.x, item.y);
+  QPoint top_left(corner.x, corner.y);
   for (const Font& line : item.lines_above) {
     top_left.ry() += QFontMetrics(table_font(line, geometry)).height();
   }

@@ -12,6 +12,7 @@ namespace tombrello {
 struct Point {
   float x = 0;
   float y = 0;
+  bool operator==(const Point&) const = default;
 };
 
 struct Rgba {

@@ -3,9 +3,9 @@
 #include <functional>
 #include <string>
 
+#include "seam/event_relay.h"
 #include "seam/window.h"
 #include "windows/chronicle_line.h"
-#include "windows/event_relay.h"
 #include "windows/menus.h"
 #include "windows/overlay.h"
 #include "windows/question.h"

@@ -4,11 +4,15 @@
 #include <random>
 
 #include "compare.h"
-#include "qt/surface_painter.h"
+#include "qt/canvas.h"
+#include "qt/geometry.h"
 #include "sample_pictures.h"
 
 namespace tombrello::qt {
 namespace {
+
+using painting::PixelRect;
+using painting::Region;
 
 /// A screen that is painted bit by bit, as the changes come.
 class Screen {
@@ -19,31 +23,31 @@ class Screen {
   }
 
   void show_changes(Surface& surface) {
-    const Surface::Changes changes = surface.take_changes();
-    QRegion region;
-    for (const Item& item : changes.items) region += changed_pixels(item, geometry_);
-    paint(surface, changes.everything ? QRegion(image_.rect()) : region & image_.rect());
+    const PixelRect room{0, 0, image_.width(), image_.height()};
+    paint(surface, painting::changed_pixels(surface.take_changes(), geometry_, letters_, room));
   }
-  void paint(const Surface& surface, const QRegion& region) {
+  void paint(const Surface& surface, const Region& region) {
     QPainter painter(&image_);
-    drafts_ = paint_surface(painter, surface, geometry_, region, pictures_, patience_);
+    QtCanvas canvas(painter);
+    drafts_ = paint_surface(canvas, letters_, surface, geometry_, region, pictures_, patience_);
   }
-  void paint_all(const Surface& surface) { paint(surface, image_.rect()); }
-  void set_patience(QDeadlineTimer patience) { patience_ = patience; }
+  void paint_all(const Surface& surface) { paint(surface, to_region(image_.rect())); }
+  void set_patience(painting::Patience patience) { patience_ = patience; }
   void resize(QSize size) {
     geometry_ = TableGeometry(size, 1, 96);
     image_ = QImage(size, QImage::Format_RGB32);
   }
 
   const QImage& image() const { return image_; }
-  const QRegion& drafts() const { return drafts_; }
+  const Region& drafts() const { return drafts_; }
 
  private:
   TableGeometry geometry_;
   QImage image_;
-  PictureCache pictures_{sample_picture};
-  QDeadlineTimer patience_{QDeadlineTimer::Forever};
-  QRegion drafts_;
+  painting::PictureCache pictures_{sample_picture};
+  QtLetters letters_;
+  painting::Patience patience_ = painting::kEndlessPatience;
+  Region drafts_;
 };
 
 QImage fresh(const Surface& surface, QSize size) {
@@ -108,7 +112,8 @@ TEST(Painting, BitByBitIsAsAllAtOnce) {
     const QImage wanted = fresh(surface, size);
     EXPECT_TRUE(same_pixels(screen.image(), wanted)) << size.width();
     for (int y = 0; y < size.height(); y += 37) {
-      for (int x = 0; x < size.width(); x += 53) screen.paint(surface, QRect(x, y, 53, 37));
+      for (int x = 0; x < size.width(); x += 53)
+        screen.paint(surface, PixelRect{x, y, x + 53, y + 37});
     }
     EXPECT_TRUE(same_pixels(screen.image(), wanted)) << "exposed in pieces " << size.width();
   }
@@ -126,7 +131,7 @@ TEST(Painting, WhatABoxErasesLeavesNoLineBehind) {
     surface.filled_box(280, 10, 360, 104.25F, kFelt);
     const QImage image = fresh(surface, size);
     const TableGeometry geometry(size, 1, 96);
-    const QRect erased(geometry.pixel(280, 5), geometry.pixel(370, 115));
+    const QRect erased = to_qrect(geometry.pixels({280, 5, 370, 115}));
     QImage felt(erased.size(), image.format());
     felt.fill(qRgb(0, 112, 0));
     EXPECT_TRUE(same_pixels(image.copy(erased), felt)) << width;
@@ -161,12 +166,12 @@ TEST(Painting, DraftsAreAnsweredAndMendedLater) {
   Screen screen(QSize(800, 600));
   screen.paint_all(surface);
   screen.resize(QSize(1000, 750));
-  screen.set_patience(QDeadlineTimer(0));
+  screen.set_patience({});
   screen.paint_all(surface);
   EXPECT_FALSE(same_pixels(screen.image(), fresh(surface, QSize(1000, 750))));
-  screen.set_patience(QDeadlineTimer::Forever);
+  screen.set_patience(painting::kEndlessPatience);
   screen.paint(surface, screen.drafts());
-  EXPECT_TRUE(screen.drafts().isEmpty());
+  EXPECT_TRUE(screen.drafts().empty());
   EXPECT_TRUE(same_pixels(screen.image(), fresh(surface, QSize(1000, 750))));
 }
 

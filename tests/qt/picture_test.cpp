@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "qt/picture_cache.h"
+#include "painting/picture_cache.h"
 #include "qt/rasteriser.h"
 #include "sample_pictures.h"
 
@@ -9,9 +9,8 @@ namespace {
 
 constexpr QRgb kClear = qRgba(0, 0, 0, 0);
 
-QImage look(PictureCache& cache, PictureSet set, QSize size, bool turned = false) {
-  return cache.rendered({{set, 7}, turned, turned, size}).image;
-}
+using painting::PictureCache;
+using painting::PixelRect;
 
 TEST(Rasteriser, StretchesToTheSizeAndLeavesTheRestClear) {
   Drawing drawing;
@@ -49,46 +48,38 @@ TEST(Rasteriser, PaintsGradientsFromEndToEnd) {
   EXPECT_GE(qRed(image.pixel(255, 2)), 253);
 }
 
-TEST(PictureCache, TurnsToThePixel) {
-  PictureCache cache(sample_picture);
-  const QImage upright = look(cache, PictureSet::carta, {61, 95});
-  const QImage lying = look(cache, PictureSet::cartao, {95, 61});
-  const QImage turned = look(cache, PictureSet::carta, {61, 95}, true);
-  ASSERT_EQ(lying.size(), QSize(95, 61));
-  for (int y = 0; y < 95; ++y) {
-    for (int x = 0; x < 61; ++x) {
-      // The top edge points to the right.
-      ASSERT_EQ(lying.pixel(94 - y, x), upright.pixel(x, y)) << x << ' ' << y;
-      ASSERT_EQ(turned.pixel(60 - x, 94 - y), upright.pixel(x, y)) << x << ' ' << y;
-    }
-  }
-  EXPECT_NE(turned, upright);
-}
-
 TEST(PictureCache, OpaquePartIsOpaqueAndMostOfACard) {
   PictureCache cache(sample_picture);
   for (const int width : {38, 61, 216}) {
-    const QSize size(width, width * 94 / 60);
-    const auto& card = cache.rendered({{PictureSet::carta, 3}, false, false, size});
+    const int height = width * 94 / 60;
+    const auto& card = cache.rendered({{PictureSet::carta, 3}, false, false, {width, height}});
     int covered = 0;
-    for (const QRect& part : card.opaque) {
+    for (const PixelRect& part : card.opaque.rects()) {
       covered += part.width() * part.height();
-      for (int y = part.top(); y <= part.bottom(); ++y) {
-        for (int x = part.left(); x <= part.right(); ++x) {
-          ASSERT_EQ(qAlpha(card.image.pixel(x, y)), 255);
-        }
+      for (int y = part.top; y < part.bottom; ++y) {
+        for (int x = part.left; x < part.right; ++x) ASSERT_EQ(card.image.at(x, y) >> 24, 255U);
       }
     }
-    EXPECT_GT(covered, width * size.height() * 8 / 10) << width;
+    EXPECT_GT(covered, width * height * 8 / 10) << width;
   }
+}
+
+TEST(PictureCache, LyingAndTurnedPicturesAreTheUprightOne) {
+  PictureCache cache(sample_picture);
+  const auto look = [&](PictureSet set, painting::PixelSize size, bool turned) {
+    return cache.rendered({{set, 7}, turned, turned, size}).image;
+  };
+  const raster::Bitmap upright = look(PictureSet::carta, {61, 95}, false);
+  EXPECT_EQ(look(PictureSet::cartao, {95, 61}, false), quarter_turn(upright));
+  EXPECT_EQ(look(PictureSet::carta, {61, 95}, true), mirrored(upright, true, true));
 }
 
 TEST(PictureCache, ForgetsSizesOutOfUse) {
   PictureCache cache(sample_picture);
-  look(cache, PictureSet::carta, {60, 94});
-  look(cache, PictureSet::cartao, {94, 60});
+  cache.rendered({{PictureSet::carta, 7}, false, false, {60, 94}});
+  cache.rendered({{PictureSet::cartao, 7}, false, false, {94, 60}});
   cache.start_round();
-  look(cache, PictureSet::carta, {30, 47});
+  cache.rendered({{PictureSet::carta, 7}, false, false, {30, 47}});
   cache.drop_unused();
   EXPECT_EQ(cache.bytes(), 30U * 47U * 4U);
 }

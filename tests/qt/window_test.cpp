@@ -14,9 +14,9 @@
 #include <random>
 
 #include "compare.h"
+#include "qt/canvas.h"
 #include "qt/desktop_timer.h"
 #include "qt/desktop_window.h"
-#include "qt/surface_painter.h"
 #include "sample_pictures.h"
 
 namespace tombrello::qt {
@@ -79,10 +79,11 @@ class WindowTest : public testing::Test {
   }
   QImage wanted() {
     QImage image(QSize(4000, 3000), QImage::Format_RGB32);
-    PictureCache pictures(sample_picture);
+    painting::PictureCache pictures(sample_picture);
     QPainter painter(&image);
-    paint_surface(painter, window_.surface(), window_.table().geometry_in_pixels(), image.rect(),
-                  pictures);
+    QtCanvas canvas(painter);
+    paint_surface(canvas, QtLetters(), window_.surface(), window_.table().geometry_in_pixels(),
+                  to_region(image.rect()), pictures);
     return image;
   }
   template <class Widget>
@@ -112,7 +113,8 @@ TEST_F(WindowTest, ShowsTheSurfaceSharpAfterAnyResize) {
     surface.print("Gioca SUD");
     settle();
     const QImage shown = on_screen();
-    const QRect table = window_.table().geometry_in_pixels().table().adjusted(0, 0, -1, -1);
+    const QRect table =
+        to_qrect(window_.table().geometry_in_pixels().table()).adjusted(0, 0, -1, -1);
     EXPECT_TRUE(same_pixels(shown.copy(table), wanted().copy(table))) << size.width();
   }
 }

@@ -5,8 +5,9 @@
 
 #include "headless/headless_window.h"
 #include "pictures/pictures.h"
+#include "qt/canvas.h"
+#include "qt/geometry.h"
 #include "qt/rasteriser.h"
-#include "qt/surface_painter.h"
 #include "table/painted_table.h"
 #include "tools/simulation/simulation.h"
 
@@ -96,8 +97,10 @@ QImage table_sheet(int width, int height) {
 
   QImage sheet(width, height, QImage::Format_RGB32);
   QPainter painter(&sheet);
-  PictureCache pictures(draw_picture);
-  paint_surface(painter, window.surface(), {sheet.size(), 1, 96}, sheet.rect(), pictures);
+  QtCanvas canvas(painter);
+  painting::PictureCache pictures(draw_picture);
+  painting::paint_surface(canvas, QtLetters(), window.surface(), TableGeometry(sheet.size(), 1, 96),
+                          to_region(sheet.rect()), pictures);
   return sheet;
 }
 

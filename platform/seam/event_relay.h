@@ -2,7 +2,7 @@
 
 #include "seam/window.h"
 
-namespace tombrello::qt {
+namespace tombrello {
 
 /// Passes everything on to whoever listens; says nothing while nobody does.
 class EventRelay : public WindowEvents {
@@ -47,4 +47,4 @@ class EventRelay : public WindowEvents {
   WindowEvents* target_ = nullptr;
 };
 
-}  // namespace tombrello::qt
+}  // namespace tombrello
