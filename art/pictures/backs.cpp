@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "pictures/faces.h"
@@ -30,18 +31,22 @@ void add_ring(Drawing& back, Point middle, float radius, float width, Rgba colou
   back.shapes.back().even_odd = true;
 }
 
-// Rows of the same motif: a shape for each row, which paints faster than one for all.
+// Rows of the same motif: a shape for each row, which paints faster than one for all. Left out
+// is whatever would reach into `cut`.
 void add_rows(Drawing& back, const Field& field, const Path& motif, int columns, int rows,
-              bool between, Rgba colour) {
+              bool between, const std::vector<Point>& cut, Rgba colour) {
   const float w = (field.right - field.left) / static_cast<float>(columns);
   const float h = (field.bottom - field.top) / static_cast<float>(rows);
   const float offset = between ? 1.0F : 0.5F;
   for (int row = 0; row < (between ? rows - 1 : rows); ++row) {
     Path line;
     for (int column = 0; column < (between ? columns - 1 : columns); ++column) {
-      join(line, moved(motif, shift(field.left + w * (static_cast<float>(column) + offset),
-                                    field.top + h * (static_cast<float>(row) + offset)) *
-                                  scaling(w / 2, h / 2)));
+      const Path one = moved(motif, shift(field.left + w * (static_cast<float>(column) + offset),
+                                          field.top + h * (static_cast<float>(row) + offset)) *
+                                        scaling(w / 2, h / 2));
+      const bool is_cut = std::any_of(one.points.begin(), one.points.end(),
+                                      [&](Point p) { return within(cut, p); });
+      if (!is_cut) join(line, one);
     }
     fill(back, line, colour);
   }
@@ -101,13 +106,19 @@ void add_first_back(Drawing& back) {
   add_beads(back, 9.2F, 1.05F, kMist);
   add_frame(back, 11.4F, 0.8F, kWhite);
   const Field field{12.6F, 12.6F, kCardWidth - 12.6F, back.height - 12.6F};
-  add_rows(back, field, star(), 8, 14, false, kMist);
-  add_rows(back, field, ellipse({0, 0}, 0.34F, 0.34F), 8, 14, true, kBlue);
   const Point m = field.middle();
-  fill(back, quatrefoil(m, 25), kNavy);
+  const Path halo = quatrefoil(m, 25);
+  add_rows(back, field, star(), 8, 14, false, {}, kMist);
+  add_rows(back, field, ellipse({0, 0}, 0.34F, 0.34F), 8, 14, true, corners_of(halo), kBlue);
+  fill(back, halo, kNavy);
   fill(back, quatrefoil(m, 23.4F), kWhite);
   fill(back, quatrefoil(m, 22.2F), kNavy);
-  fill(back, petals(m, 2, 17.6F, 30.4F, 5), kMist);
+  const Path drop = outline(
+      "M0 -29 C0.4 -26.6 2.7 -25 2.7 -22.4 C2.7 -20.6 1.5 -19.4 0 -19.4 C-1.5 -19.4 -2.7 -20.6 "
+      "-2.7 -22.4 C-2.7 -25 -0.4 -26.6 0 -29 Z");
+  for (const float side : {1.0F, -1.0F}) {
+    fill(back, moved(drop, shift(m.x, m.y) * scaling(1, side)), kMist);
+  }
   fill(back, petals(m, 24, 12.6F, 16.8F, 1.4F), kBlue);
   add_ring(back, m, 17.8F, 0.9F, kWhite);
   fill(back, petals(m, 12, 2.4F, 14.6F, 4), kWhite);
@@ -143,7 +154,8 @@ struct Band {
 constexpr std::array<Band, 3> kFanBands = {{{1, kIvory}, {0.84F, kCoral}, {0.46F, kBrick}}};
 
 void add_sun(Drawing& back, Point m) {
-  fill(back, circle(m, 19.4F), kCoral);
+  fill(back, circle(m, 22.2F), kIvory);  // swallows the arcs that would just miss the disc
+  fill(back, circle(m, 21), kCoral);
   fill(back, petals(m, 12, 7, 18.4F, 4.6F), kIvory);
   fill(back, petals(m, 12, 10, 16.6F, 2.2F), kBrick);
   fill(back, circle(m, 9.8F), kIvory);
@@ -161,11 +173,12 @@ void add_ribbon(Drawing& back, const Field& field) {
                     {field.right, y + half},
                     {field.left, y + half}});
   };
-  fill(back, band(6.6F), kIvory);
-  fill(back, band(5.6F), kBrick);
+  fill(back, band(7), kIvory);  // as high as the cores of the fans behind it
+  fill(back, band(6), kBrick);
   Path beads;
-  for (float x = field.left + 3.8F; x < field.right; x += 7.24F) {
-    join(beads, polygon({{x, y - 3.4F}, {x + 2.4F, y}, {x, y + 3.4F}, {x - 2.4F, y}}));
+  for (const float off : {25.5F, 30.9F, 36.3F, -25.5F, -30.9F, -36.3F}) {
+    const float x = field.middle().x + off;
+    join(beads, polygon({{x, y - 2.9F}, {x + 2.05F, y}, {x, y + 2.9F}, {x - 2.05F, y}}));
   }
   fill(back, beads, kIvory);
 }

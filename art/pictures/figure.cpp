@@ -6,42 +6,6 @@
 namespace tombrello::art {
 namespace {
 
-// The corners of an outline's first part, its curves taken in short steps.
-std::vector<Point> corners_of(const Path& path) {
-  std::vector<Point> corners;
-  const Point* next = path.points.data();
-  for (const Path::Verb verb : path.verbs) {
-    if (verb == Path::Verb::close) break;
-    if (verb != Path::Verb::cubic) {
-      corners.push_back(*next++);
-      continue;
-    }
-    const Point from = corners.back();
-    for (const float t : {0.2F, 0.4F, 0.6F, 0.8F, 1.0F}) {
-      const float u = 1 - t;
-      const auto mix = [&](float a, float b, float c, float d) {
-        return u * u * u * a + 3 * u * u * t * b + 3 * u * t * t * c + t * t * t * d;
-      };
-      corners.push_back({mix(from.x, next[0].x, next[1].x, next[2].x),
-                         mix(from.y, next[0].y, next[1].y, next[2].y)});
-    }
-    next += 3;
-  }
-  return corners;
-}
-
-bool within(const std::vector<Point>& corners, Point p) {
-  bool inside = false;
-  for (std::size_t i = 0, j = corners.size() - 1; i < corners.size(); j = i++) {
-    const Point a = corners[i];
-    const Point b = corners[j];
-    if ((a.y > p.y) != (b.y > p.y) && p.x < (b.x - a.x) * (p.y - a.y) / (b.y - a.y) + a.x) {
-      inside = !inside;
-    }
-  }
-  return inside;
-}
-
 // Whether the motif lies in the cloth with a little room around.
 bool fits(const std::vector<Point>& cloth, const Path& motif, Point place) {
   constexpr float kRoom = 1.12F;

@@ -41,6 +41,11 @@ Path loop(const std::vector<Point>& points);
 /// Petals around a point, from radius `inner` to `outer`.
 Path petals(Point middle, int count, float inner, float outer, float width);
 
+/// The corners of an outline's first part, its curves taken in short steps.
+std::vector<Point> corners_of(const Path& path);
+/// Whether the point lies within a part of such corners; in none without corners.
+bool within(const std::vector<Point>& corners, Point p);
+
 Path moved(const Path& path, const Affine& by);
 void join(Path& onto, const Path& more);
 
