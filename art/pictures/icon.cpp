@@ -15,7 +15,7 @@ Drawing draw_icon(int pixels) {
   felt.radius = 52;
   felt.stops = {{0, {24, 150, 44, 255}}, {1, {0, 88, 8, 255}}};
   fill(icon, rounded_box(0.5F, 0.5F, 63.5F, 63.5F, 13), felt);
-  const Affine behind = shift(25.5F, 32.5F) * turning(-15);
+  const Affine behind = shift(pixels < 24 ? 28.0F : 25.5F, 33.5F) * turning(-15);
   const float rim = pixels < 24 ? 0.0F : 3.0F;  // it would only blur
   inked(icon, moved(rounded_box(-18, -25, 18, 25, 5), behind), kNavy, rim, kWhite);
   const Affine before = shift(37.5F, 32) * turning(7);
