@@ -63,8 +63,8 @@ void add_hearts(Belt& belt) {
 // Lozenges in two colours, as of a chequered cloth.
 void add_diamonds(Belt& belt) {
   belt.band(4.2F, kTeal, 0.75F);
-  belt.both(along(lozenge(4, 4.2F), {8, 16, 24}), suit_colour(Suit::diamonds), 0.5F);
-  belt.both(along(lozenge(1.4F, 1.6F), {4, 8, 12, 16, 20, 24}), kGold);
+  belt.both(along(lozenge(3.3F, 3.5F), {9, 16.4F, 23.8F}), suit_colour(Suit::diamonds));
+  belt.both(along(lozenge(1.2F, 1.4F), {12.7F, 20.1F}), kGold);
   belt.clasp(lozenge(5, 5), kGold, 0.6F);
   belt.clasp(lozenge(2.6F, 2.6F), suit_colour(Suit::diamonds), 0.5F);
 }
@@ -79,13 +79,11 @@ void add_clubs(Belt& belt) {
   belt.clasp(circle({0, 0}, 2.8F), suit_colour(Suit::clubs), 0.5F);
 }
 
-// Black between silver, with a chain of plates.
+// Black between silver.
 void add_spades(Belt& belt) {
   belt.band(4.2F, kSteel, 0.75F);
   belt.band(3.1F, suit_colour(Suit::spades), 0.4F);
-  belt.both(suit_along(Suit::spades, 4.8F, {8.4F, 16.2F, 24}), kSteel);
-  belt.both(along(polygon({{-0.6F, -2}, {0.6F, -2}, {0.6F, 2}, {-0.6F, 2}}), {12.3F, 20.1F}),
-            kCrimson);
+  belt.both(suit_along(Suit::spades, 5, {9, 16.4F, 23.8F}), kSteel);
   belt.clasp(rounded_box(-4.4F, -4.8F, 4.4F, 4.8F, 1), kGold, 0.6F);
   belt.clasp(rounded_box(-2.4F, -2.8F, 2.4F, 2.8F, 0.6F), kCrimson, 0.5F);
 }

@@ -13,6 +13,7 @@ namespace court {
 inline constexpr Rgba kInk{30, 26, 44, 255};
 inline constexpr Rgba kCrimson{186, 24, 48, 255};
 inline constexpr Rgba kVermilion{226, 86, 34, 255};
+inline constexpr Rgba kAmber{246, 148, 58, 255};  // a thread that stays calm on vermilion
 inline constexpr Rgba kTeal{0, 104, 112, 255};
 inline constexpr Rgba kNavy{36, 52, 118, 255};
 inline constexpr Rgba kGold{246, 196, 72, 255};

@@ -106,8 +106,10 @@ void add_club_crown(Figure& f) {
       "M-8.6 -9.4 L-10 -15.4 L-8.6 -15.4 L-5 -12.8 L-0.8 -17 L0.8 -17 L5 -12.8 L8.6 -15.4 "
       "L10 -15.4 L8.6 -9.4 Q0 -12 -8.6 -9.4 Z",
       kGold, "M0 -17 L0.8 -17 L5 -12.8 L8.6 -15.4 L10 -15.4 L8.6 -9.4 Q4 -10.7 0 -10.7 Z");
-  for (const Point& at : {Point{-9.4F, -17.6F}, Point{0, -20}, Point{9.4F, -17.6F}}) {
+  const std::vector<Point> clubs{{-9.4F, -17.8F}, {0, -20.2F}, {9.4F, -17.8F}};
+  for (const Point& at : clubs) {
     f.fine(suit_outline(Suit::clubs, at, 7.4F), suit_colour(Suit::clubs));
+    f.fine(ellipse({at.x, at.y + 3.5F}, 1.7F, 0.9F), kGold);
   }
   f.studs(0.95F, {{-6, -11}, {0, -12.2F}, {6, -11}}, kCrimson);
 }
@@ -128,7 +130,10 @@ void add_page_cap(Figure& f) {
       kCrimson,
       "M5 -20.6 C10 -19.6 13.6 -16.6 13 -13 C12.4 -10.4 11 -9 10 -8 Q7.6 -9 5 -9.6 C8.4 -12 8.6 "
       "-17 5 -20.6 Z");
-  f.inked("M-10.4 -7.6 Q0 -11 10 -7 L9.8 -10.4 Q0 -14 -10.4 -10.6 Z", kNavy);
+  f.inked(
+      "M-10 -7.8 Q0 -11 9.6 -7.2 C11.2 -7.4 11.2 -9.8 9.6 -10.5 Q0 -14 -10 -10.8 C-11.6 -10.2 "
+      "-11.6 -8 -10 -7.8 Z",
+      kNavy);
   add_feather(f, shift(-6.4F, -12) * scaling(0.9F, 0.86F) * turning(-14), kCream);
   f.inked(circle({-6.8F, -11.4F}, 1.7F), kGold);
 }
@@ -147,15 +152,15 @@ void add_brimmed_hat(Figure& f) {
 
 void add_hunter_cap(Figure& f) {
   f.shaded(
-      "M-10.4 -7.4 C-11.4 -15 -7 -19.6 -1.6 -21.4 C2 -22.6 4.6 -20.6 5 -18.4 "
-      "C8.6 -16.6 10.8 -12.6 10.4 -7.4 Z",
+      "M-9.8 -9.4 C-10.8 -15.4 -7 -19.6 -1.6 -21.4 C2 -22.6 4.6 -20.6 5 -18.4 "
+      "C8.6 -16.6 10.6 -13 9.8 -9.4 Z",
       kTeal,
-      "M4.6 -19.4 L5 -18.4 C8.6 -16.6 10.8 -12.6 10.4 -7.4 L6 -7.4 C7.4 -11 6.8 -15.6 4.6 -19.4 Z");
+      "M4.6 -19.4 L5 -18.4 C8.6 -16.6 10.6 -13 9.8 -9.4 L6 -9.4 C7.4 -12 6.8 -15.6 4.6 -19.4 Z");
   f.inked(
-      "M-12 -6.4 C-8.6 -11.8 8.6 -11.8 12 -6.4 C13 -8 12.6 -10.6 11.2 -11.6 "
-      "C6 -15 -6 -15 -11.2 -11.6 C-12.6 -10.6 -13 -8 -12 -6.4 Z",
+      "M-10 -6.8 Q0 -11.8 10 -6.8 C11.4 -7.4 11.7 -9.8 10.6 -11 C6 -15 -6 -15 -10.6 -11 "
+      "C-11.7 -9.8 -11.4 -7.4 -10 -6.8 Z",
       {0, 78, 86, 255});
-  add_feather(f, shift(7, -12.4F) * scaling(0.56F, 0.72F) * turning(-14), kCrimson);
+  add_feather(f, shift(6.8F, -12.4F) * scaling(0.62F, 0.66F) * turning(-40), kCrimson);
   f.inked(circle({7, -11.8F}, 1.6F), kGold);
 }
 
@@ -166,7 +171,10 @@ void add_guard_cap(Figure& f) {
       kNavy,
       "M9 -19 C13.6 -17.6 16 -14.6 15 -11.4 C14.4 -8.8 12.4 -7 10.4 -6 Q9 -6.8 7 -7.4 C11.4 -10 12 "
       "-15 9 -19 Z");
-  f.inked("M-7.4 -6.8 Q1.6 -9 10.4 -5 L10.8 -8.6 Q1.6 -12.4 -7.8 -9.8 Z", kGold);
+  f.inked(
+      "M-7 -6.9 Q1.6 -9 10 -5.2 C11.8 -5.2 12 -7.9 10.6 -8.7 Q1.6 -12.4 -7.4 -9.9 C-9 -9.3 -8.6 -7 "
+      "-7 -6.9 Z",
+      kGold);
   add_feather(f, shift(0.6F, -11.4F) * scaling(0.86F, 0.84F) * turning(10), kCrimson);
   f.inked(circle({0.4F, -10.8F}, 1.7F), kCream);
 }

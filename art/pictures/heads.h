@@ -17,11 +17,12 @@ struct Look {
 /// hair to the chin, laid on the card a little larger. A negative `side` looks to the right.
 Affine head_place(float x, float y, float tilt, float side);
 
-/// The five faces, without hair: seen from three quarters, from the front and from the side.
+/// The six faces, without hair: seen from three quarters, from the front and from the side. Only
+/// the man aside has an ear; a round chin is also shorter.
 void add_man_turned(Figure& figure, const Look& look);
 void add_man_facing(Figure& figure, const Look& look);
 void add_man_aside(Figure& figure, const Look& look);
-void add_lady_turned(Figure& figure, const Look& look);
+void add_lady_turned(Figure& figure, const Look& look, bool round_chin);
 void add_lady_facing(Figure& figure, const Look& look);
 void add_lady_aside(Figure& figure, const Look& look);
 

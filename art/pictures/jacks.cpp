@@ -38,8 +38,8 @@ void add_page_head(Figure& f) {
   add_neck(f, kFair);
   add_man_turned(f, kFair);
   f.inked(
-      "M-7.7 -3.4 C-8.6 -6 -8 -9 -5 -9.6 L7.8 -9.6 C11 -8 12 -4 10.6 -1.4 C12 1 11.4 4 9 4.6 "
-      "C8.4 2 8.8 0 7.6 -2 C6.4 -2.6 5.6 -4 5.6 -5.6 C3.4 -4 0.8 -4.4 -0.4 -6.4 "
+      "M-7.7 -3.4 C-8.6 -6 -8 -9 -5 -9.6 L7.8 -9.6 C11 -8 12 -4 10.6 -1.4 C12 1 11 4.6 8 5.2 "
+      "C7 2.6 7.6 0 6.8 -2 C6.2 -2.6 5.6 -4 5.6 -5.6 C3.4 -4 0.8 -4.4 -0.4 -6.4 "
       "C-1.8 -4.2 -4.2 -4.2 -5.4 -6 C-5.6 -4.6 -6.4 -3.8 -7.7 -3.4 Z",
       kStraw);
   f.line(
@@ -56,6 +56,7 @@ void add_page_head(Figure& f) {
 // Hearts: the fair messenger, with a letter.
 void add_jack_of_hearts(Figure& f) {
   add_shoulders(f, moved(suit_outline(Suit::hearts, {0, 0}, 4), scaling(0.9F, 1)), kNavy, kGold);
+  f.plain("M63.8 63 L68 63 L68 68.4 L63.8 68.4 Z", kNavy);  // half a heart would peep past the cuff
   f.inked("M38 59.4 L57 59.4 C58.6 65 58.6 70 57.4 75 L38 79 C36.6 72 36.6 66 38 59.4 Z", kCrimson);
   f.line("M42 61 L41.4 78 M54 61 L54.4 75.4", 1.1F, kGold);
   f.line("M47.4 60 L47.4 76.6", 0.5F, kInk);
@@ -88,7 +89,7 @@ void add_ruff(Figure& f, float x, float y) {
 
 // Diamonds: the dashing herald, with his pennon.
 void add_jack_of_diamonds(Figure& f) {
-  add_shoulders(f, motif::lozenge(), kVermilion, kGold);
+  add_shoulders(f, motif::lozenge(), kVermilion, kAmber);
   f.inked("M33 60 L45 59 L45 77.4 L31.4 79.8 C30 73 30.4 66 33 60 Z", kTeal);
   f.inked("M45 59 L57 60 C58.6 65 58.6 70 57.6 74.8 L45 77.4 Z", kCream);
   f.fine(moved(motif::lozenge(), shift(38.6F, 70) * scaling(2, 2)), kGold);
@@ -111,7 +112,7 @@ void add_jack_of_diamonds(Figure& f) {
       "12.6 "
       "-3 C12 -6 11 -7.4 9 -8 Z",
       kHazel);
-  f.line("M9.6 -4 C11 1 9.6 6 11 11 M-8.6 -3 C-9.4 2 -8.6 6 -9 9", 0.5F, kInk);
+  f.line("M9.6 -4 C11 1 9.6 6 11 11", 0.5F, kInk);
   add_brimmed_hat(f);
   f.at = {};
   add_ruff(f, 45, 61);
@@ -120,12 +121,9 @@ void add_jack_of_diamonds(Figure& f) {
 }
 
 void add_quiver(Figure& f) {
-  f.at = shift(29, 57) * turning(-6);
-  f.line("M-3 -4 L-3.4 -19 M0.4 -4 L0.4 -22 M3.6 -4 L4.4 -18", 1, kWood);
-  f.inked(
-      "M-5.2 -22 L-3.4 -20 L-1.8 -22.4 L-2 -15.4 L-3.4 -13.6 L-4.8 -15.4 Z "
-      "M2.8 -21 L4.4 -19.4 L6.2 -21 L5.8 -14.4 L4.2 -12.6 L2.8 -14.4 Z",
-      kCrimson);
+  f.at = shift(30.4F, 57) * turning(-6);
+  f.line("M-3 -4 L-3.4 -19 M0.4 -4 L0.4 -22", 1, kWood);
+  f.inked("M-5.2 -22 L-3.4 -20 L-1.8 -22.4 L-2 -15.4 L-3.4 -13.6 L-4.8 -15.4 Z", kCrimson);
   f.inked("M-1.4 -26 L0.4 -24 L2.2 -26 L2.2 -19 L0.4 -17 L-1.4 -19 Z", kCream);
   f.inked("M-5.4 -6 L6 -6 L5 18 L-4 18 Z", kWood);
   f.inked("M-5.7 -7 L6.3 -7 L6 -3 L-5.4 -3 Z", kGold);
@@ -148,11 +146,15 @@ void add_archer_head(Figure& f) {
               {5.6F, 5.6F},
               {3.4F, 5.2F}},
              {190, 106, 62, 255});
-  f.inked(
-      "M-8.4 3.4 C-9.4 -2 -9.6 -6 -8 -9 L8 -9 C9.6 -6 9.4 -2 8.4 3.4 C7.6 1 7.4 -2 6.4 -4.6 "
+  f.plain(
+      "M-7.9 5.2 C-9.6 0 -9.6 -6 -8 -11 L8 -11 C9.6 -6 9.6 0 7.9 5.2 C7.8 2 7.4 -2 6.4 -4.6 "
       "C4.6 -3.6 2.6 -4 1.6 -5.6 C0.2 -3.6 -2.6 -3.2 -4 -5 C-4.6 -3.8 -5.6 -3.4 -6.6 -3.6 "
-      "C-7.4 -1.6 -7.6 1 -8.4 3.4 Z",
+      "C-7.4 -1.6 -7.8 2 -7.9 5.2 Z",
       kRust);
+  f.line(
+      "M7.8 5.4 C7.8 2 7.4 -2 6.4 -4.6 C4.6 -3.6 2.6 -4 1.6 -5.6 C0.2 -3.6 -2.6 -3.2 -4 -5 "
+      "C-4.6 -3.8 -5.6 -3.4 -6.6 -3.6 C-7.4 -1.6 -7.8 2 -7.8 5.4",
+      0.75F, kInk);
   add_hunter_cap(f);
   f.at = {};
 }
@@ -169,27 +171,27 @@ void add_jack_of_clubs(Figure& f) {
       "L54.6 68.6 L50.4 64.8 L46.4 70.4 L42 65.2 L37.6 70.6 L34 65.6 L30 69.8 Z",
       kCrimson);
   f.line("M38.6 59 C41.4 62.6 46.6 62.6 49.4 59", 0.5F, kInk);
-  f.inked("M54.6 75.8 C54.8 66 56 58 59.4 50.6 L66.4 53.6 C66.4 62 67.4 68 67 73.6 Z", kCream);
-  f.line("M58.4 74 C58.6 67 59.4 61 61 55.4 M62.8 73.6 C63 67.6 63.4 62 64 57.4", 0.5F, kInk);
-  add_hand(f, Hand::fist, hand_place(71.2F, 40.4F, 4, -1), kRuddy, kGold, add_bow);
+  f.inked("M54.6 75.8 C54.4 66 55 58 58 50.6 L65 53.6 C65.2 62 66.8 68 66.6 73.6 Z", kCream);
+  f.line("M58.2 74 C58 67 58.4 61 59.6 55.4 M62.4 73.6 C62 67.6 62 62 62.6 57.4", 0.5F, kInk);
+  add_hand(f, Hand::fist, hand_place(69.7F, 40.4F, 4, -1), kRuddy, kGold, add_bow);
 }
 
 // Spades: the sullen guardsman in profile, with a halberd.
 void add_jack_of_spades(Figure& f) {
-  add_shoulders(f, motif::star(), kNavy, kSteel);
-  f.inked("M40 59.4 L59 59.4 C60.6 65 60.6 70 59.6 74.6 L39.6 78.4 C38 72 38.4 66 40 59.4 Z",
+  add_shoulders(f, motif::star(), kNavy, {118, 136, 184, 255});
+  f.inked("M40 61 L58.4 61 C60.4 65.6 60.6 70 59.6 74.6 L39.6 78.4 C38 72 38.4 66 40 59.4 Z",
           kCrimson);
   f.line("M41.4 63 L50 68 L59.4 62 M40 69.4 L50 74.4 L60 68.6", 1.5F, kGold);
   f.line("M50 61 L50 76", 0.5F, kInk);
   f.inked("M62 59.4 C69 60 74.4 63.6 75.6 68.4 C72 72 66 72.4 61.4 70 C60 66 60.4 62.4 62 59.4 Z",
           kNavy);
   f.plain("M64.4 60.6 Q70 63.6 72.4 70 L69.4 70.8 Q68 65 63.4 61.6 Z", kCrimson);
-  const Affine head = head_place(54.6F, 41.5F, 2, -1);
+  const Affine head = head_place(54.6F, 39.6F, 2, -1);
   f.at = head;
   add_man_aside(f, kSullen);
-  f.plain(
-      "M-6.2 11.4 C-5 11 -4.2 11.6 -4 12.6 C-4.2 14.2 -5.2 15.4 -7 16 C-7.4 14.4 -7.2 12.6 "
-      "-6.2 11.4 Z",
+  f.inked(
+      "M-6.8 11 C-5.2 10.6 -3.9 11.4 -3.7 12.7 C-3.6 14.1 -4.8 15.2 -6.8 15.5 C-7.7 14.2 -7.8 12.4 "
+      "-6.8 11 Z",
       kRaven);
   f.inked(
       "M-4.8 -8.4 C-3.4 -5 -1 -4.4 0.8 -3.4 C2.6 -2 2 1 2.4 3.6 C2.8 6.4 3.6 9 6 10.6 "
@@ -199,8 +201,8 @@ void add_jack_of_spades(Figure& f) {
   add_guard_cap(f);
   f.at = {};
   constexpr std::string_view kGorget =
-      "M38.6 62.4 C39 59 41 57.4 43 57.2 L56 58 C58.6 58.6 60 60.6 60.6 62.6 "
-      "C58 66 53.6 67.4 49.6 67.4 C45.4 67.4 41.2 65.6 38.6 62.4 Z";
+      "M38.6 63 C39 60 40.6 58.8 42.6 58.8 Q50 61.6 57.4 60 C59.2 60.4 60.2 61.8 60.6 63.2 "
+      "C58 66.6 53.6 68 49.6 68 C45.4 68 41.2 66.2 38.6 63 Z";
   add_mail(f, kGorget, {kGorget});
   f.inked("M31.4 79.8 C31.2 76.8 32 74 33.6 71.4 L43 73 C44 74.6 44.2 76.2 43.4 77.6 Z", kCrimson);
   add_hand(f, Hand::fist, hand_place(27, 61.5F, 0, 1), kSullen, kGold, add_halberd);

@@ -34,6 +34,7 @@ void add_old_head(Figure& f) {
       "M-8 -9 C-12.4 -6 -12.6 -1 -11 2 C-13.4 4 -13.4 8 -11.4 9.6 C-12 12.4 -9 14 -7 13 L8 13 "
       "C10.4 14.4 13.4 12.6 12.4 9.6 C14.4 7.6 14 4 12 2 C13.6 -2 12.6 -6 8.6 -9 Z",
       kWhiteHair);
+  f.inked("M7.4 -1.4 C9.2 -3.2 11 -1.6 10.4 1 C10 3.2 8.8 4.8 7.4 4.2 Z", kOld.skin);
   add_man_turned(f, kOld);
   f.line("M5.8 -0.4 L7 -1.2 M5.9 0.6 L7.2 0.7 M-6.6 2.4 Q-5.4 3.1 -4.2 2.6 M0.2 2.7 Q2 3.4 3.8 2.6",
          0.4F, {190, 130, 104, 255});
@@ -72,6 +73,7 @@ void add_king_of_hearts(Figure& f) {
 void add_merchant_head(Figure& f) {
   f.at = head_place(44.6F, 41, 0, 1);
   add_man_aside(f, kShrewd);
+  f.plain("M-6.4 8.4 C-7 8.8 -7.1 9.2 -6.8 9.7 L-3 10 L-3 8 Z", {178, 52, 56, 255});
   f.inked("M-4 15.4 C0 18.6 6 18 10.6 14.6 L12.6 19.6 C7 23.6 0 24 -5.4 20.6 Z", kTeal);
   f.line("M-4.6 19.2 C0 22 6.6 21.6 11.8 18", 0.9F, kGold);
   f.inked(
@@ -103,7 +105,7 @@ void add_merchant_head(Figure& f) {
 
 // Diamonds: the merchant king in profile, auburn and shrewd, with the axe.
 void add_king_of_diamonds(Figure& f) {
-  add_shoulders(f, motif::lozenge(), kVermilion, kGold);
+  add_shoulders(f, motif::lozenge(), kVermilion, kAmber);
   f.inked("M42 57 L56 57 L58.6 74.6 L39.6 78.4 Z", kCream);
   f.line("M41 62.6 L57 60.8 M40.6 67.6 L57.6 65.2 M40 72.8 L58.2 70", 1.3F, kTeal);
   f.inked(
@@ -134,6 +136,10 @@ void add_king_of_clubs(Figure& f) {
       "C8.6 13.6 10.6 14.6 12.6 13 C13.6 10 12.4 8 12 4 C12.6 0 12 -6 8 -9 Z",
       kBrown);
   f.line("M-10.6 -2 C-9.6 3 -11.6 7 -10.8 12 M10.6 -2 C9.6 3 11.6 7 10.8 12", 0.5F, kInk);
+  f.inked(
+      "M-8 -1 C-9.8 -2.6 -10.6 -1 -10 1 C-9.6 3 -8.8 4.6 -7.6 4.2 Z "
+      "M8 -1 C9.8 -2.6 10.6 -1 10 1 C9.6 3 8.8 4.6 7.6 4.2 Z",
+      kBroad.skin);
   add_man_facing(f, kBroad);
   f.inked(
       "M-8.2 1.6 C-7.6 5 -6.2 7 -4 6.6 L4 6.6 C6.2 7 7.6 5 8.2 1.6 C9.4 6 9 11 6.4 14 "
@@ -151,11 +157,11 @@ void add_king_of_clubs(Figure& f) {
       kBrown);
   add_trefoil_crown(f);
   f.at = {};
-  f.line("M37 59.6 C39 65.6 45 68.6 51 68.6 C57 68.6 63.4 65.4 66 59.6", 1.9F, kInk);
-  f.line("M37 59.6 C39 65.6 45 68.6 51 68.6 C57 68.6 63.4 65.4 66 59.6", 1.1F, kGold);
-  f.inked(circle({51, 68.6F}, 2.6F), kGold);
-  f.inked("M24 81.4 C24 77 24.4 73.6 25.2 71.4 L35.6 71.4 C36.6 74 36.8 77 36.4 79 Z", kTeal);
-  add_hand(f, Hand::cradle, hand_place(30, 61, 0, 1), kBroad, kGold, add_orb);
+  f.line("M37.4 58.8 C39.4 64 45 66.8 51 66.8 C57 66.8 62.4 64.4 64.8 60.2", 1.9F, kInk);
+  f.line("M37.4 58.8 C39.4 64 45 66.8 51 66.8 C57 66.8 62.4 64.4 64.8 60.2", 1.1F, kGold);
+  f.inked(circle({51, 66.8F}, 2.1F), kGold);
+  f.inked("M25 81.2 C25 77 25.4 73.6 26.2 71.4 L36.6 71.4 C37.6 74 37.8 77 37.4 78.8 Z", kTeal);
+  add_hand(f, Hand::cradle, hand_place(31, 61, 0, 1), kBroad, kGold, add_orb);
 }
 
 void add_pauldrons(Figure& f) {
@@ -201,7 +207,7 @@ void add_king_of_spades(Figure& f) {
   f.at = {};
   add_mail(f, "M55 75.4 C55.4 71.6 56.8 69 59.4 66.6 L68.4 70 C69 71.6 68.6 72.6 68 73.4 Z",
            {"M55 75.4 C55.4 71.6 56.8 69 59.4 66.6 L68.4 70 C69 71.6 68.6 72.6 68 73.4 Z"});
-  add_hand(f, Hand::fist, hand_place(68.5F, 58.6F, 0, -1), kWarrior, kSteel, add_sword);
+  add_hand(f, Hand::fist, hand_place(68.1F, 58.6F, 0, -1), kWarrior, kSteel, add_sword);
 }
 
 }  // namespace

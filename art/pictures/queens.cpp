@@ -39,7 +39,7 @@ constexpr std::string_view kBodice =
 void add_bust(Figure& f, const Look& look) {
   f.inked(
       "M46 50 C46 56.4 45.4 58 39 59.4 C41 67 45 70 50.4 70 C56 70 60 67 62 59.4 "
-      "C56.4 58 56.2 56.4 56.4 50 Z",
+      "C56.4 58 56.2 56.4 55.2 49 Z",
       look.skin);
   f.plain("M46.4 53 C48 60.4 53.4 59 56.2 52.4 L56 50 L46.4 50 Z", look.shade);
   f.line("M45 60.4 C46.6 61 47.6 61.6 48.4 62.6 M57 60.2 C55.2 60.8 54 61.4 53 62.6", 0.45F,
@@ -54,22 +54,18 @@ void add_neckline(Figure& f, Rgba trim) {
       trim);
 }
 
+// All but the middle one, at (50.5, 64.3).
 void add_pearls(Figure& f, Rgba colour) {
-  f.studs(1.05F,
-          {{44.6F, 60.4F},
-           {46, 62.5F},
-           {48.1F, 63.9F},
-           {50.5F, 64.3F},
-           {52.9F, 63.9F},
-           {55, 62.5F},
-           {56.4F, 60.4F}},
-          colour);
+  f.studs(
+      1.05F,
+      {{44.6F, 60.4F}, {46, 62.5F}, {48.1F, 63.9F}, {52.9F, 63.9F}, {55, 62.5F}, {56.4F, 60.4F}},
+      colour);
 }
 
 // Hair parted in the middle, seen in front of the brow.
 void add_parting(Figure& f, Rgba hair, Rgba ink) {
   f.inked(
-      "M-7.7 2 C-7.8 -4 -5 -7 -1 -8.6 C3.6 -7 7.2 -4 8 3 C10.8 -4 9.6 -13 0 -13.4 "
+      "M-7.7 2 C-7.8 -4 -5 -7 -1 -8.6 C3.6 -7 6.8 -4 7.3 3.9 C10 -2 10.2 -13 0 -13.4 "
       "C-9.6 -13 -10.4 -4 -7.7 2 Z",
       hair);
   f.line("M-1.2 -9 C-5 -9 -8 -6 -8.4 -2 M-0.8 -9 C4 -9 8 -5.6 8.6 -1", 0.5F, ink);
@@ -93,15 +89,15 @@ void add_queen_of_hearts(Figure& f) {
   add_bust(f, kFair);
   add_neckline(f, kGold);
   add_pearls(f, kWhite);
-  f.inked(suit_outline(Suit::hearts, {50.5F, 66.8F}, 4.4F), suit_colour(Suit::hearts));
+  f.inked(suit_outline(Suit::hearts, {50.5F, 66.2F}, 4.4F), suit_colour(Suit::hearts));
   f.at = head;
-  add_lady_turned(f, kFair);
+  add_lady_turned(f, kFair, false);
   add_parting(f, kBlonde, kBlondeInk);
   add_pearl_crown(f);
   f.at = {};
   f.inked("M31.4 79.8 C31 76.6 32 73.6 33.4 70.6 L43.6 71.6 C45 74 45.2 75.8 44.6 77.4 Z", kNavy);
   f.line("M35 79 C35 76.4 35.4 74.6 36.6 72.4 M40 78 C40.4 76 40.2 74.4 39.8 72.6", 0.8F, kGold);
-  add_hand(f, Hand::spread, hand_place(28, 60.5F, 0, 1), kFair, kCream, add_rose);
+  add_hand(f, Hand::spread, hand_place(28.7F, 60.5F, 0, 1), kFair, kCream, add_rose);
 }
 
 // A roll of hair in a golden net behind the ear.
@@ -125,22 +121,26 @@ void add_caul(Figure& f) {
 // Diamonds: dark and elegant, in profile, before her mirror.
 void add_queen_of_diamonds(Figure& f) {
   const Affine head = head_place(48, 41, 2, -1);
-  add_shoulders(f, motif::lozenge(), kTeal, kGold);
-  f.inked("M38.6 60 C42 67 43.4 71 42 78.4 L58 74.8 C57 70 57.6 66 58.4 60 Z", kGold);
+  add_brocade(
+      f,
+      "M20 82 L20 70 C23 63.4 30 60.2 38 58.6 L46 64 L58 62.4 C65 62.8 71.4 64.4 76 68.4 L76 71 Z",
+      motif::lozenge(), kTeal, kGold);
+  f.inked("M38.6 60 C42 67 43.4 71 42 78.4 L58 74.8 C57 70 57.6 66 58.4 63 Z", kGold);
   f.line("M43 70 L57 75 M42.6 75 L48 77 M57.4 68.6 L43.4 77.4 M57.4 72.8 L51 76.4", 0.6F, kOldGold);
   f.inked(
-      "M38.6 46 C38.6 54 37.6 58 33.6 60 C36.6 67.4 41 70.4 47 70.4 C53 70.4 57.4 66.8 59 59.6 "
-      "C51.4 59.4 48.4 57.6 47.8 52 L47 46 Z",
+      "M38.6 46 C38.6 54 37.6 58 33.6 60 C36.6 67.4 41 70.4 47 70.4 C53 70.4 57 67.4 58.8 62 "
+      "C53.4 61.8 49.4 61.4 49.2 57.6 L49 50 L47 46 Z",
       kOlive.skin);
-  f.plain("M39 48 C39 54 38.4 57 37.4 59 C42 59 46.6 57 47.6 54.6 L47 46 Z", kOlive.shade);
+  f.plain("M39 48 C39 54 38.4 57 37.4 59.4 C42 60.4 46.8 59.6 48.9 57 L48.6 50 L47 46 Z",
+          kOlive.shade);
   f.at = head;
   add_lady_aside(f, kOlive);
   f.at = {};
   f.inked(
-      "M33 60 C36 68.4 41 72 47.4 71.8 C54 71.4 58.6 67.4 60.4 59.2 L57.6 58.4 C56 65.4 52.6 "
-      "68.6 47.4 69 C42.6 69 38.4 66 35.4 58.8 Z",
+      "M33 60 C36 68.4 41 72 47.4 71.8 C54 71.4 58.4 68.4 60.4 62.4 L57.8 61.4 C55.8 66.4 52.6 "
+      "68.8 47.4 69 C42.6 69 38.4 66 35.4 58.8 Z",
       kCream);
-  f.line("M37.4 60.4 C41 66 48 66.4 53.6 60.4", 0.9F, kOldGold);
+  f.line("M37.4 60.8 C41 66 48.4 66.8 53.8 62.8", 0.9F, kOldGold);
   f.inked(moved(motif::lozenge(), shift(46.4F, 66) * scaling(1.3F, 1.2F)), kVermilion);
   f.inked(
       "M37 38 C30 42 29 52 26 60 C24 66 21.6 71 20 75 L20 82 L33 79.4 C35.4 71 36 63 38.6 56 "
@@ -154,15 +154,18 @@ void add_queen_of_diamonds(Figure& f) {
   add_diamond_crown(f);
   f.at = {};
   f.inked("M54.6 75.8 C54.6 72 56 69.6 58 67.4 L67 70 C68 71.4 67.8 72.6 67 73.6 Z", kTeal);
-  add_hand(f, Hand::fist, hand_place(67.7F, 59, 0, -1), kOlive, kCream, add_mirror);
+  add_hand(f, Hand::fist, hand_place(67.1F, 59, 0, -1), kOlive, kCream, add_mirror);
 }
 
 void add_braid(Figure& f, float x, float y, float lean) {
-  for (int i = 0; i < 5; ++i) {
+  const Path strand = outline(
+      "M-3.4 -1.4 C-3.6 -3.4 -1.4 -3.8 0.2 -2.4 C2 -0.8 2.4 1.2 1 3.2 C-1.2 2.8 -3.4 1.2 -3.4 -1.4 "
+      "Z");
+  for (int i = 0; i < 8; ++i) {
     const float down = static_cast<float>(i);
-    const float turn = i % 2 == 0 ? 32.0F : -32.0F;
-    f.inked(moved(ellipse({0, 0}, 3.2F - down * 0.2F, 2.6F),
-                  shift(x + lean * down, y + down * 3.9F) * turning(turn)),
+    const float side = i % 2 == 0 ? 1.0F : -1.0F;
+    f.inked(moved(strand, shift(x + lean * down * 0.55F, y + down * 2.25F) *
+                              scaling(side * (1 - down * 0.03F), 1)),
             kCopper);
   }
   f.fine(ellipse({x + lean * 4.6F, y + 18.4F}, 2, 1.4F), kCrimson);
@@ -186,16 +189,17 @@ void add_queen_of_clubs(Figure& f) {
   f.line("M44.6 71.6 L56.4 75 M44 75.4 L49 76.8 M56.6 71 L44.2 75.6 M57.2 74.2 L50 76.6", 0.7F,
          kGold);
   add_pearls(f, kGold);
+  f.studs(1.05F, {{50.5F, 64.3F}}, kGold);
   f.at = head;
-  add_lady_turned(f, kRosy);
+  add_lady_turned(f, kRosy, true);
   add_freckles(f);
   add_parting(f, kCopper, kCopperInk);
   add_club_crown(f);
   f.at = {};
   add_braid(f, 61.4F, 48.4F, 0.5F);
-  f.inked("M32.6 79.6 C32.4 76.8 33.6 74.4 35 72 L44.6 72.6 C45.8 74.6 46 76 45.4 77.2 Z",
+  f.inked("M33.8 79.4 C33.6 76.8 34.8 74.4 36.2 72 L45.8 72.6 C47 74.6 47.2 76 46.6 77 Z",
           kCrimson);
-  add_hand(f, Hand::pinch, hand_place(32.4F, 63, 0, 1), kRosy, kCream, add_fan);
+  add_hand(f, Hand::pinch, hand_place(33.6F, 63, 0, 1), kRosy, kCream, add_fan);
 }
 
 // Spades: the widow, severe in wimple and veil, with a tulip.
@@ -203,7 +207,7 @@ void add_queen_of_spades(Figure& f) {
   const Affine head = head_place(46.5F, 41, 0, 1);
   f.at = head;
   f.inked(
-      "M0 -15 C-10.6 -15 -13 -7 -13 2 C-13 12 -16 20 -21 30 L19 30 C16 20 13 12 13 2 "
+      "M0 -15 C-10.6 -15 -13 -7 -13 2 C-13 12 -16 20 -21 30 L26 30 C23 20 13.4 14 13 2 "
       "C13 -7 10.6 -15 0 -15 Z",
       kNavy);
   f.at = {};
@@ -231,6 +235,7 @@ void add_queen_of_spades(Figure& f) {
       kNavy);
   add_spiked_crown(f);
   f.at = {};
+  f.plain("M62 65.6 L68 65.6 L68 74 L62 74 Z", kPlum);  // no thread between wrist and stem
   f.inked("M54 76 C54 72.6 55.6 70 57.4 67.6 L66.6 70 C67.6 71.4 67.4 72.8 66.6 73.8 Z", kPlum);
   add_hand(f, Hand::spread, hand_place(67.6F, 58.5F, 0, -1), kPale, kCream, add_tulip);
 }
