@@ -103,7 +103,7 @@ void Places::add_own_hand(Spots& spots) const {
     add(spots,
         long_name(entry % kSelected) + ", " + ordinal(k) + " della tua mano" +
             (selected ? ", scelta" : ""),
-        g_.hand_card(k, selected));
+        g_.hand_card_seen(k, s_.n_mano[1], selected));
     Spot& spot = spots.back();
     spot.told.selected = selected;
     // With cards selected a left press on any of the fan lowers them all.

@@ -68,7 +68,7 @@ Place Pointer::meld_for(int side, float x) const {
 
 Place Pointer::card_at(float x) const {
   const int slot = g_.slot_at(x, s_.n_mano[1]);
-  return g_.hand_card(slot, s_.mano[1][slot] > kSelected);
+  return g_.hand_card_seen(slot, s_.n_mano[1], s_.mano[1][slot] > kSelected);
 }
 
 int Pointer::count_selected() const {

@@ -8,7 +8,7 @@ namespace {
 constexpr Colour kDark = 0x141414;
 constexpr Colour kBright = 0x00D6FF;
 
-// Of one tone, in pixels: the outline is two of them wide, and lies within its area.
+// Of one tone, in pixels: the outline is two of them wide, one on each side of its area's edge.
 int tone_width(const TableGeometry& geometry) {
   return std::max(2, static_cast<int>(geometry.scale() * 1.4));
 }
@@ -22,7 +22,7 @@ std::array<PixelRect, 4> sides_of(const PixelRect& outer, int width) {
 }
 
 PixelRect outline(const Area& area, const TableGeometry& geometry) {
-  return geometry.pixels(area).intersected(geometry.table());
+  return geometry.pixels(area).grown(tone_width(geometry)).intersected(geometry.table());
 }
 
 }  // namespace

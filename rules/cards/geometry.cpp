@@ -85,6 +85,12 @@ Place Geometry::hand_card(int k, bool raised) const {
   return upright(ventaglio_x() + fan_step(k), raised ? riga_alzata() : riga_mano());
 }
 
+Place Geometry::hand_card_seen(int k, int cards, bool raised) const {
+  Place card = hand_card(k, raised);
+  if (k < cards) card.right = card.left + passo_carta();
+  return card;
+}
+
 Place Geometry::hand_box() const {
   return {ventaglio_x(), riga_alzata(), ventaglio_x() + 13 * passo_carta() + larghezza_carta,
           2 * mezza_altezza - 20};
