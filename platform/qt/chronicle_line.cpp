@@ -10,6 +10,18 @@ namespace {
 constexpr int kMargin = 8;
 constexpr int kGap = 24;  // between the two parts
 
+// Whole words go from the beginning, until the rest has room.
+QString end_of(const QString& text, int room, const QFontMetrics& letters) {
+  if (letters.horizontalAdvance(text) <= room) return text;
+  const QString gone = QString::fromUtf8("… ");
+  qsizetype from = 0;
+  while ((from = text.indexOf(' ', from) + 1) > 0) {
+    const QString rest = gone + text.mid(from);
+    if (letters.horizontalAdvance(rest) <= room) return rest;
+  }
+  return {};
+}
+
 }  // namespace
 
 ChronicleLine::ChronicleLine(QWidget* parent) : QLabel(parent) {
@@ -47,8 +59,7 @@ void ChronicleLine::paintEvent(QPaintEvent*) {
   painter.setFont(font());
   const int room = inside.width() - bold_letters.horizontalAdvance(now_) - kGap;
   if (room <= 0) return;
-  painter.drawText(inside, Qt::AlignRight | Qt::AlignVCenter,
-                   fontMetrics().elidedText(then_, Qt::ElideLeft, room));
+  painter.drawText(inside, Qt::AlignRight | Qt::AlignVCenter, end_of(then_, room, fontMetrics()));
 }
 
 }  // namespace tombrello::qt
