@@ -23,9 +23,9 @@ inline constexpr const char* kHelpText =
     "carta della combinazione a cui volete aggiungerla.\n"
     "\n"
     "Con la tastiera\n"
-    "Le frecce e Tab spostano il segno tra i punti in cui si può agire: Invio è il tasto sinistro, "
-    "la barra spaziatrice il destro. Mentre giocano gli altri, la barra tenuta premuta accelera. "
-    "Ai punti Invio continua. F1 ed Esc aprono e chiudono questo aiuto.";
+    "Le frecce e Tab spostano il contorno da un posto all'altro: lì Invio è il tasto sinistro, la "
+    "barra spaziatrice il destro. Mentre giocano gli altri, tenete premuta la barra per fare più "
+    "in fretta. Finito il conteggio, Invio continua. F1 apre questo aiuto, Esc lo chiude.";
 
 inline constexpr const char* kRulesText =
     "LE REGOLE\n"

@@ -23,7 +23,7 @@ void Pointer::press_right(float x, float y) {
     Surface& surface = window_.surface();
     surface.set_text_position(g_.prompt().left, g_.prompt().top);
     surface.print("PESCARE");
-    if (s_.phase == Phase::hand && s_.di_turno == 1) chronicle_.remark(kDrawFirst);
+    tell_to_draw_first();
     return;
   }
   if (is_on_fan(x, y) && s_.n_mano[1] == 1) chronicle_.remark(kLastCard);
@@ -74,8 +74,8 @@ void Pointer::press_before_draw(float x, float y) {
     s_.azione = kDrawStock;
   } else {
     press_on_melds(x, y);
+    if (is_on_fan(x, y)) tell_to_draw_first();
   }
-  if (is_on_fan(x, y)) chronicle_.remark(kDrawFirst);
 }
 
 // After the draw only the up arrow leads here; before it the looser bands of a press do, but
@@ -85,6 +85,11 @@ void Pointer::press_on_melds(float x, float y) {
   s_.x_click = x;
   if (g_.band_for_press(1).holds(x, y)) s_.azione = kLayOwnSide;
   if (g_.band_for_press(3).holds(x, y)) s_.azione = kLayPartnerSide;
+  if (s_.azione == kLayOwnSide || s_.azione == kLayPartnerSide) tell_to_draw_first();
+}
+
+void Pointer::tell_to_draw_first() {
+  if (s_.phase == Phase::hand && s_.di_turno == 1 && !s_.ha_pescato) chronicle_.remark(kDrawFirst);
 }
 
 void Pointer::Form_MouseMove(float x, float y) {

@@ -52,9 +52,10 @@ std::string Chronicle::now() const {
     case Phase::opening:
       return "Fai clic per cominciare";
     case Phase::draw:
-      return "Scelta del cartaro: fai clic sul mazzo per la carta di " + name_of(s_.di_turno);
+      return "Scelta del cartaro: fai clic sul mazzo per la " +
+             (s_.di_turno == 1 ? "tua carta" : "carta di " + name_of(s_.di_turno));
     case Phase::deal:
-      return name_of(s_.cartaro) + " dà le carte";
+      return s_.cartaro == 1 ? "Dai tu le carte" : name_of(s_.cartaro) + " dà le carte";
     case Phase::hand:
       return s_.di_turno == 1 ? own_turn() : "Gioca " + name_of(s_.di_turno);
     case Phase::open_hands:
@@ -77,21 +78,23 @@ std::string Chronicle::own_turn() const {
     case 0:
       return "Scarta (clic) o seleziona le carte da calare (tasto destro)";
     case 1:
-      return "Attaccala: clic sulla metà bassa di una combinazione";
+      return s_.n_calate[1] + s_.n_calate[3] == 0
+                 ? "Selezionane almeno altre due per calare"
+                 : "Attaccala (clic sulla metà bassa di una combinazione) o selezionane altre due";
     case 2:
-      return "Selezionane almeno una terza per calare";
+      return "Selezionane almeno un'altra per calare";
     default:
-      return "Cala: clic dove appare la freccia, da te o dal compagno";
+      return "Cala: fai clic sopra la tua mano, dove appare la freccia, o davanti al compagno";
   }
 }
 
 std::string Chronicle::count() const {
   const std::string score =
       s_.squadre[0] + " " + total(s_, 1) + kBetween + s_.squadre[1] + " " + total(s_, 2);
-  if (s_.phase == Phase::count) return score + ". Invio per continuare, o Partita, Continua";
+  if (s_.phase == Phase::count) return score + ". Per continuare: Invio, o Partita, Continua";
   if (s_.punti_totali[1] == s_.punti_totali[2]) return "Partita finita in parità: " + score;
   const bool own = s_.punti_totali[1] > s_.punti_totali[2];
-  return (own ? "Avete vinto la partita! " : "Partita a " + s_.squadre[1] + ". ") + score;
+  return (own ? "Avete vinto la partita! " : "La partita va a " + s_.squadre[1] + ". ") + score;
 }
 
 std::string Chronicle::then() const {

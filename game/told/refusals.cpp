@@ -10,6 +10,11 @@
 namespace tombrello {
 namespace {
 
+const std::string kNoMoreHere =
+    "La combinazione è buona, ma una già calata qui non ne ammette altre";
+const std::string kNotInARow = "Non è una scala: le carte non sono in fila";
+const std::string kNothing = "Non è né un tris, né un poker, né una scala";
+
 /// How many of the cards share what most of them share, and one that doesn't.
 struct Majority {
   int size = 0;
@@ -34,13 +39,20 @@ Majority majority(Cards cards, Trait trait) {
   return most;
 }
 
-bool any_twice(Cards cards) {
+/// One of two cards that are alike, or 0.
+int card_twice(Cards cards) {
   for (std::size_t i = 0; i < cards.size(); ++i) {
     for (std::size_t j = i + 1; j < cards.size(); ++j) {
-      if (first_pack_twin(cards[i]) == first_pack_twin(cards[j])) return true;
+      if (first_pack_twin(cards[i]) == first_pack_twin(cards[j])) return cards[i];
     }
   }
-  return false;
+  return 0;
+}
+
+std::vector<std::int16_t> all_but(Cards cards, int one) {
+  std::vector<std::int16_t> rest(cards.begin(), cards.end());
+  rest.erase(std::find(rest.begin(), rest.end(), one));
+  return rest;
 }
 
 // The ranks that a run of these cards of one suit lacks, taken where it lacks fewest: the Ace
@@ -65,12 +77,35 @@ std::vector<int> missing_ranks(Cards cards) {
   return fewest;
 }
 
-std::string not_a_scala(Cards cards) {
-  const auto missing = missing_ranks(cards);
-  if (missing.empty()) {
-    return "La combinazione è buona, ma una già calata qui non ne ammette altre";
+// Whatever their suits; no rank is there twice.
+bool in_a_row(Cards cards) {
+  return missing_ranks(cards).empty();
+}
+
+std::string not_of_one_rank(Cards cards, int odd_one) {
+  if (cards.size() == 3) return "Quasi un tris: " + short_name(odd_one) + " è di un altro valore";
+  return "Quasi un poker: " + short_name(odd_one) +
+         (cards.size() == 4 ? " è di un altro valore" : " è di troppo");
+}
+
+std::string not_of_one_suit(Cards cards, int odd_one) {
+  if (in_a_row(cards)) return "Quasi una scala: " + short_name(odd_one) + " è di un altro seme";
+  const std::vector<std::int16_t> rest = all_but(cards, odd_one);
+  if (rest.size() >= 3 && in_a_row(rest)) {
+    return "Quasi una scala: " + short_name(odd_one) + " è di troppo";
   }
-  if (missing.size() > 1) return "Non è una scala: le carte non sono in fila";
+  return kNothing;
+}
+
+std::string not_a_scala(Cards cards) {
+  if (const int twin = card_twice(cards); twin != 0) {
+    return in_a_row(all_but(cards, twin))
+               ? "Quasi una scala: " + short_name(twin) + " c'è due volte"
+               : kNotInARow;
+  }
+  const auto missing = missing_ranks(cards);
+  if (missing.empty()) return kNoMoreHere;
+  if (missing.size() > 1) return kNotInARow;
   const int lacking = (Seme(cards.front()) - 1) * kRanks + missing.front();
   return "Quasi una scala: manca " + short_name(lacking);
 }
@@ -79,21 +114,14 @@ std::string not_a_meld(Cards cards) {
   const auto count = static_cast<int>(cards.size());
   const Majority rank = majority(cards, ValCarta);
   const Majority suit = majority(cards, Seme);
+  const bool twice = card_twice(cards) != 0;
   if (rank.size == count) {
-    return any_twice(cards) ? "Tris e poker vogliono semi diversi: qui un seme c'è due volte"
-                            : "La combinazione è buona, ma una già calata qui non ne ammette altre";
+    return twice ? "Tris e poker vogliono semi diversi: qui un seme c'è due volte" : kNoMoreHere;
   }
-  if (suit.size == count) {
-    return any_twice(cards) ? "Quasi una scala: una carta c'è due volte" : not_a_scala(cards);
-  }
-  if (suit.size == count - 1 && rank.size < count - 1) {
-    return "Quasi una scala: " + short_name(suit.odd_one) + " è di un altro seme";
-  }
-  if (rank.size == count - 1 && suit.size < count - 1) {
-    return std::string(count > 4 ? "Non è un poker: " : "Quasi un tris: ") +
-           short_name(rank.odd_one) + " è di un altro valore";
-  }
-  return "Non è né un tris, né un poker, né una scala";
+  if (suit.size == count) return not_a_scala(cards);
+  if (rank.size == count - 1 && !twice) return not_of_one_rank(cards, rank.odd_one);
+  if (suit.size == count - 1) return not_of_one_suit(cards, suit.odd_one);
+  return kNothing;
 }
 
 }  // namespace
@@ -101,13 +129,13 @@ std::string not_a_meld(Cards cards) {
 std::string sentence_of(Refusal why, Cards cards, Cards meld) {
   switch (why) {
     case Refusal::two_cards:
-      return "Due carte sole non si calano: tre o più per una combinazione, una per attaccare";
+      return "Due carte da sole non si calano: ne servono almeno tre, o una per attaccarla";
     case Refusal::no_meld_yet:
-      return "Qui non c'è ancora niente a cui attaccare: la prima volta si calano almeno tre carte";
+      return "Qui non c'è ancora niente a cui attaccarla: prima si calano almeno tre carte";
     case Refusal::list_full:
       return "Da questa parte del tavolo non c'è più posto";
     case Refusal::beside_melds:
-      return "Per attaccare " + short_name(cards.front()) + " fai clic su una combinazione";
+      return "Per attaccare " + short_name(cards.front()) + " fai clic proprio su una combinazione";
     case Refusal::does_not_fit:
       return short_name(cards.front()) + " non si attacca a " + short_names(meld);
     case Refusal::not_a_meld:

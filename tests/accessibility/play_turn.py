@@ -69,7 +69,7 @@ def main():
     _, opening = wait_for(lambda n: n.startswith("Tombrello: fai clic"), "the opening")
     act(opening, "Press")
     for seat in ("OVEST", "NORD", "EST", "TU"):
-        wait_for(lambda n: f"carta di {seat}" in n, f"the draw for {seat}")
+        wait_for(lambda n: f"carta di {seat}" in n or (seat == "TU" and "tua carta" in n), f"the draw for {seat}")
         _, deck = wait_for(lambda n: n == "Mazzo", "the deck")
         act(deck, "Press")
     wait_for(lambda n: n.startswith("Tocca a te"), "the own turn", 60)

@@ -77,18 +77,27 @@ TEST_F(ChronicleTest, TellsWhatCanBeDoneNow) {
   s_.ha_pescato = true;
   EXPECT_EQ(now(), "Scarta (clic) o seleziona le carte da calare (tasto destro)");
   s_.mano[1][1] = 1 + kSelected;
-  EXPECT_EQ(now(), "Attaccala: clic sulla metà bassa di una combinazione");
+  EXPECT_EQ(now(), "Selezionane almeno altre due per calare");
   s_.mano[1][2] = 2 + kSelected;
-  EXPECT_EQ(now(), "Selezionane almeno una terza per calare");
+  EXPECT_EQ(now(), "Selezionane almeno un'altra per calare");
   s_.mano[1][3] = 3 + kSelected;
-  EXPECT_EQ(now(), "Cala: clic dove appare la freccia, da te o dal compagno");
+  EXPECT_EQ(now(),
+            "Cala: fai clic sopra la tua mano, dove appare la freccia, o davanti al compagno");
+  s_.n_calate[3] = 4;
+  s_.mano[1][2] = s_.mano[1][3] = 2;
+  EXPECT_EQ(now(), "Attaccala (clic sulla metà bassa di una combinazione) o selezionane altre due");
   s_.mano = {};
   s_.n_mano[1] = 1;
   EXPECT_EQ(now(), "Ultima carta: fai clic per scartarla e chiudere");
   s_.phase = Phase::draw;
   s_.di_turno = 3;
   EXPECT_EQ(now(), "Scelta del cartaro: fai clic sul mazzo per la carta di NORD");
+  s_.di_turno = 1;
+  EXPECT_EQ(now(), "Scelta del cartaro: fai clic sul mazzo per la tua carta");
   s_.phase = Phase::deal;
+  s_.cartaro = 1;
+  EXPECT_EQ(now(), "Dai tu le carte");
+  s_.di_turno = 2;
   s_.cartaro = 4;
   EXPECT_EQ(now(), "EST dà le carte");
 }
@@ -96,10 +105,10 @@ TEST_F(ChronicleTest, TellsWhatCanBeDoneNow) {
 TEST_F(ChronicleTest, TellsTheCountAndWhoHasWon) {
   s_.phase = Phase::count;
   s_.punti_totali = {0, 340, -25};
-  EXPECT_EQ(now(), "TU-NORD 340 · OVEST-EST -25. Invio per continuare, o Partita, Continua");
+  EXPECT_EQ(now(), "TU-NORD 340 · OVEST-EST -25. Per continuare: Invio, o Partita, Continua");
   s_.phase = Phase::match_over;
   s_.punti_totali = {0, 1540, 1600};
-  EXPECT_EQ(now(), "Partita a OVEST-EST. TU-NORD 1540 · OVEST-EST 1600");
+  EXPECT_EQ(now(), "La partita va a OVEST-EST. TU-NORD 1540 · OVEST-EST 1600");
   s_.numero_mano = 2;
   s_.punti_totali = {0, 1540, 900};
   EXPECT_EQ(now(), "Avete vinto la partita! TU-NORD 1540 · OVEST-EST 900");
@@ -114,7 +123,7 @@ TEST_F(ChronicleTest, ARemarkGoesWithItsMoment) {
   s_.mano[1][1] = 1;
   chronicle_.refused(Refusal::two_cards, some("Ah 2h"), {});
   const std::string refusal = now();
-  EXPECT_TRUE(refusal.starts_with("Due carte sole non si calano")) << refusal;
+  EXPECT_TRUE(refusal.starts_with("Due carte da sole")) << refusal;
   EXPECT_EQ(now(), refusal);
   s_.mano[1][1] = 1 + kSelected;
   EXPECT_NE(now(), refusal);
@@ -129,11 +138,15 @@ TEST(Refusals, SayWhyCardsDropBack) {
   EXPECT_EQ(said(Refusal::not_a_meld, "Qh Kh 2h"), "Quasi una scala: manca A♥");
   EXPECT_EQ(said(Refusal::not_a_meld, "2h 6h 9h"), "Non è una scala: le carte non sono in fila");
   EXPECT_EQ(said(Refusal::not_a_meld, "6h 7h 8d"), "Quasi una scala: 8♦ è di un altro seme");
-  EXPECT_EQ(said(Refusal::not_a_meld, "6h 6h 7h"), "Quasi una scala: una carta c'è due volte");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 7h 8h Jd"), "Quasi una scala: J♦ è di troppo");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 6h 7h 8h"), "Quasi una scala: 6♥ c'è due volte");
   EXPECT_EQ(said(Refusal::not_a_meld, "6h 6d 7s"), "Quasi un tris: 7♠ è di un altro valore");
   EXPECT_EQ(said(Refusal::not_a_meld, "6h 6d 6d"),
             "Tris e poker vogliono semi diversi: qui un seme c'è due volte");
-  EXPECT_EQ(said(Refusal::not_a_meld, "6h 9d 10s"), "Non è né un tris, né un poker, né una scala");
+  EXPECT_EQ(said(Refusal::not_a_meld, "6h 6d 6s 7h"), "Quasi un poker: 7♥ è di un altro valore");
+  for (const char* none : {"6h 9d 10s", "6h 7h Jd", "6h 9h 8d", "6h 6h 7d"}) {
+    EXPECT_EQ(said(Refusal::not_a_meld, none), "Non è né un tris, né un poker, né una scala");
+  }
   for (const char* good : {"6h 7h 8h", "6h 6d 6s", "Qh Kh Ah"}) {
     EXPECT_EQ(said(Refusal::not_a_meld, good),
               "La combinazione è buona, ma una già calata qui non ne ammette altre");
