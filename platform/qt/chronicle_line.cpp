@@ -1,6 +1,6 @@
 #include "qt/chronicle_line.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <algorithm>
 
@@ -9,6 +9,24 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kGap = 24;  // between the two parts
+
+/// Assistive technology reads out what a notification shows.
+class AccessibleLine : public QAccessibleWidget {
+ public:
+  explicit AccessibleLine(ChronicleLine& line)
+      : QAccessibleWidget(&line, QAccessible::Notification), line_(line) {}
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? line_.text() : QString();
+  }
+
+ private:
+  const ChronicleLine& line_;
+};
+
+QAccessibleInterface* line_interface(const QString&, QObject* object) {
+  auto* line = dynamic_cast<ChronicleLine*>(object);
+  return line == nullptr ? nullptr : new AccessibleLine(*line);
+}
 
 // Whole words go from the beginning, until the rest has room.
 QString end_of(const QString& text, int room, const QFontMetrics& letters) {
@@ -25,6 +43,7 @@ QString end_of(const QString& text, int room, const QFontMetrics& letters) {
 }  // namespace
 
 ChronicleLine::ChronicleLine(QWidget* parent) : QLabel(parent) {
+  QAccessible::installFactory(line_interface);
   setObjectName("chronicle");
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -42,8 +61,8 @@ void ChronicleLine::tell(const std::string& now, const std::string& then) {
   setToolTip(whole.toHtmlEscaped());  // wrapped where it is long
   update();
   if (!QAccessible::isActive()) return;
-  QAccessibleEvent alert(this, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
+  QAccessibleEvent shown(this, QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&shown);
 }
 
 void ChronicleLine::paintEvent(QPaintEvent*) {

@@ -8,7 +8,14 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
+
+announced = []  # what a screen reader reads out of its own accord
+
+
+def listen(event):
+    if event.detail1 and event.source.get_role_name() == "notification":
+        announced.append(event.source.get_name())
 
 
 def walk(node, depth=0):
@@ -45,6 +52,8 @@ def names():
 def wait_for(test, what, seconds=20):
     until = time.time() + seconds
     while time.time() < until:
+        while GLib.MainContext.default().iteration(False):
+            pass
         for name, node in names():
             if test(name):
                 return name, node
@@ -66,6 +75,8 @@ def own_cards():
 
 
 def main():
+    listener = Atspi.EventListener.new(listen)
+    listener.register("object:state-changed:showing")
     _, opening = wait_for(lambda n: n.startswith("Tombrello: fai clic"), "the opening")
     act(opening, "Press")
     for seat in ("OVEST", "NORD", "EST", "TU"):
@@ -85,6 +96,8 @@ def main():
     wait_for(lambda n: n == name, "the third card lowered")
     act(wait_for(lambda n: n == name, "it")[1], "Press")
     wait_for(lambda n: "Gioca OVEST" in n or "OVEST: " in n, "the next seat")
+    if not any(name.startswith("Tocca a te") for name in announced):
+        sys.exit(f"the own turn isn't announced, but {announced}")
     print(f"drawn, selected, lowered, discarded: {name}")
 
 
