@@ -176,8 +176,9 @@ void DesktopSession::TearDown() {
 }
 
 void DesktopSession::start_quick(Quick quick) {
-  const std::vector<std::string> numbers = {
-      folder, std::to_string(quick.clock), std::to_string(quick.deal), std::to_string(quick.turns)};
+  std::vector<std::string> numbers = {folder, std::to_string(quick.clock),
+                                      std::to_string(quick.deal), std::to_string(quick.turns)};
+  if (quick.rare != 0) numbers.push_back(std::to_string(quick.rare));
   std::vector<std::string> words = {TOMBRELLO_QUICK};
   if (kWindows != nullptr) {
     words = under_wine({kWindows + std::string("/tests/window/tombrello-quick.exe")});
@@ -382,6 +383,11 @@ void DesktopSession::send(int signal) {
 
 void DesktopSession::freeze_screen() const {
   kill(static_cast<pid_t>(screen_->processId()), SIGSTOP);
+}
+
+void DesktopSession::lose_screen() {
+  screen_->kill();
+  screen_->waitForFinished(5000);
 }
 
 void DesktopSession::expect_quiet_end(Milliseconds most) {

@@ -4,6 +4,7 @@
 
 #include <QProcess>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -53,7 +54,14 @@ struct Quick {
   unsigned long clock = 1;
   int deal = 25;   ///< thousandths of the deal's pauses
   int turns = 25;  ///< thousandths of all pauses after the deal
+  int rare = 0;    ///< of those in a reshuffle and at the end of a hand, if not as all
 };
+
+/// What the environment asks for by this name, or this.
+inline int asked_for(const char* name, int otherwise) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? otherwise : std::atoi(value);
+}
 
 /// A screen of the test's own with a window manager, and the game on it: the one for this system,
 /// or, where TOMBRELLO_WINDOWS names its build, the one for Windows, under wine. Presses are real
@@ -100,6 +108,7 @@ class DesktopSession : public ::testing::Test {
   void expect_still_running();
   void send(int signal);
   void freeze_screen() const;  ///< from here on it answers nobody
+  void lose_screen();          ///< with the connection of all that are on it
   std::string file(const std::string& name) const;
   int pixel(const Shot& shot, float x, float y);
 

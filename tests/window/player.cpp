@@ -64,6 +64,15 @@ unsigned long clock_of_short_hand() {
   return best;
 }
 
+unsigned long clock_of_reshuffle() {
+  for (int turns = 50;; turns += 5) {
+    for (unsigned long start = 1; start <= 300; ++start) {
+      const HandResult result = Simulation(ScriptKind::simple, start).play_hand(turns, false);
+      if (!result.finished && result.reshuffles > 0) return start;
+    }
+  }
+}
+
 unsigned long clock_of_short_match() {
   unsigned long best = 1;
   int fewest = 1000;

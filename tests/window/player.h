@@ -24,7 +24,10 @@ unsigned long find_clock(const std::function<bool(const Fortune&)>& pleases);
 /// away again, tried headless.
 unsigned long clock_of_short_hand();
 
-/// The same for a whole match.
+/// A clock whose first hand, played so, reshuffles soonest.
+unsigned long clock_of_reshuffle();
+
+/// As for the short hand, for a whole match.
 unsigned long clock_of_short_match();
 
 /// Slots of cards of a hand that make a meld: a run, else cards of a rank. None if there is none.

@@ -217,14 +217,15 @@ TEST_F(Shell, TheLastHandCanBeDealtAgain) {
 // Whatever is pressed, typed or chosen, the game goes on and can be left.
 TEST_F(Shell, ARandomWalkUpsetsNothing) {
   start_quick({.clock = find_clock(is_dealer_found), .turns = 10});
-  std::mt19937 dice(20240229);
+  std::mt19937 dice(static_cast<unsigned>(asked_for("TOMBRELLO_WALK_SEED", 20240229)));
+  const int steps = asked_for("TOMBRELLO_WALK_STEPS", 300);
   auto below = [&](int n) { return static_cast<int>(dice() % static_cast<unsigned>(n)); };
   const std::vector<std::string> keys = {"alt+p", "alt+o", "alt+s",  "alt+m",  "alt+r",
                                          "alt+i", "alt+h", "Return", "Escape", "Down",
                                          "Right", "n",     "Tab",    "space",  "alt+F10"};
   const std::vector<std::pair<float, float>> places = {{400, 300}, {370, 300}, {430, 300},
                                                        {300, 440}, {310, 190}, {105, 120}};
-  for (int step = 0; step < 300; ++step) {
+  for (int step = 0; step < steps; ++step) {
     const int kind = below(20);
     if (kind < 9) {
       press(static_cast<float>(below(801)), static_cast<float>(below(601)), below(2) == 0 ? 1 : 3);

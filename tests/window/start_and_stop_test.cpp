@@ -7,78 +7,11 @@
 #include <fstream>
 
 #include "player.h"
-#include "seam/window.h"
 
 namespace tombrello {
 namespace {
 
 namespace files = std::filesystem;
-
-enum class Moment { opening, draw, deal, computer_turn, own_turn, scoreboard };
-enum class Manner { frame, signal };
-
-class Stop : public PlayingSession,
-             public ::testing::WithParamInterface<std::tuple<Moment, Manner>> {
- protected:
-  // The pauses that follow the moment take their full time: they are not waited for.
-  void go_to(Moment moment) {
-    switch (moment) {
-      case Moment::opening:
-        return start_quick();
-      case Moment::draw:
-        start_quick();
-        dismiss_opening();
-        press(400, 300);
-        return wait_for("index", 2);
-      case Moment::deal:
-        start_quick(
-            {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .deal = 500});
-        dismiss_opening();
-        turn_up(1, 4);
-        return wait_until("the first cards", [](const View& v) {
-          const auto cards = v.numbers("hand2");
-          return cards.size() > 2 && cards[1] != 0;
-        });
-      case Moment::computer_turn:
-        begin(
-            {.clock = find_clock([](const Fortune& f) { return f.dealer == 1; }), .turns = 10000});
-        return wait_for("pointer", static_cast<int>(PointerShape::hourglass));
-      case Moment::own_turn:
-        begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; }), .turns = 1000});
-        draw(kStock);
-        return select({1, 2});
-      case Moment::scoreboard:
-        begin({.clock = clock_of_short_hand(), .turns = 5});
-        return play_hand(false);
-    }
-  }
-};
-
-TEST_P(Stop, EndsAtOnce) {
-  const auto [moment, manner] = GetParam();
-  go_to(moment);
-  if (manner == Manner::frame) {
-    close_by_frame();
-  } else {
-    send(SIGTERM);
-  }
-  expect_quiet_end();
-}
-
-std::string name_of(const ::testing::TestParamInfo<Stop::ParamType>& info) {
-  const auto [moment, manner] = info.param;
-  constexpr const char* kMoments[] = {"OpeningPicture", "Draw",    "Deal",
-                                      "ComputerTurn",   "OwnTurn", "Scoreboard"};
-  return std::string(manner == Manner::frame ? "CloseAt" : "SignalAt") +
-         kMoments[static_cast<int>(moment)];
-}
-
-INSTANTIATE_TEST_SUITE_P(Moments, Stop,
-                         ::testing::Combine(::testing::Values(Moment::opening, Moment::draw,
-                                                              Moment::deal, Moment::computer_turn,
-                                                              Moment::own_turn, Moment::scoreboard),
-                                            ::testing::Values(Manner::frame, Manner::signal)),
-                         name_of);
 
 using StopOver = PlayingSession;
 
