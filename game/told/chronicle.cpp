@@ -52,6 +52,7 @@ std::string Chronicle::now() const {
     case Phase::opening:
       return "Fai clic per cominciare";
     case Phase::draw:
+      if (s_.azione == kNoAction) return "Il cartaro " + dealer();
       return "Scelta del cartaro: fai clic sul mazzo per la " +
              (s_.di_turno == 1 ? "tua carta" : "carta di " + name_of(s_.di_turno));
     case Phase::deal:
@@ -66,6 +67,10 @@ std::string Chronicle::now() const {
     default:
       return {};
   }
+}
+
+std::string Chronicle::dealer() const {
+  return s_.cartaro == 1 ? "sei tu" : "è " + name_of(s_.cartaro);
 }
 
 std::string Chronicle::own_turn() const {

@@ -44,6 +44,7 @@ class Chronicle : public Events {
   void tell_all(const std::string& sentence);
   const std::string& name_of(int seat) const;
   std::string now() const;
+  std::string dealer() const;
   std::string own_turn() const;
   std::string count() const;
   std::string then() const;

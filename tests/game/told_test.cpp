@@ -90,14 +90,18 @@ TEST_F(ChronicleTest, TellsWhatCanBeDoneNow) {
   s_.n_mano[1] = 1;
   EXPECT_EQ(now(), "Ultima carta: fai clic per scartarla e chiudere");
   s_.phase = Phase::draw;
+  s_.azione = kDealerDraw;
   s_.di_turno = 3;
   EXPECT_EQ(now(), "Scelta del cartaro: fai clic sul mazzo per la carta di NORD");
   s_.di_turno = 1;
   EXPECT_EQ(now(), "Scelta del cartaro: fai clic sul mazzo per la tua carta");
-  s_.phase = Phase::deal;
+  s_.azione = kNoAction;
   s_.cartaro = 1;
-  EXPECT_EQ(now(), "Dai tu le carte");
   s_.di_turno = 2;
+  EXPECT_EQ(now(), "Il cartaro sei tu");
+  s_.phase = Phase::deal;
+  EXPECT_EQ(now(), "Dai tu le carte");
+  s_.di_turno = 1;
   s_.cartaro = 4;
   EXPECT_EQ(now(), "EST dà le carte");
 }
