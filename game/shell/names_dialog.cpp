@@ -1,5 +1,8 @@
 #include "shell/names_dialog.h"
 
+#include <array>
+#include <string>
+
 #include "shell/player_name.h"
 
 namespace tombrello {
@@ -14,6 +17,8 @@ constexpr float kFieldWidth = 60;
 constexpr float kFieldHeight = 14.8F;
 constexpr float kShapeTop = 115;
 constexpr float kShapeHeight = 9.9F;
+const std::array<std::string, kSeats> kWhose = {"Il tuo nome", "Nome di chi siede a sinistra",
+                                                "Nome del compagno", "Nome di chi siede a destra"};
 constexpr Colour kShape0Colour = 32896;
 constexpr Colour kShape1Colour = 49344;
 
@@ -30,6 +35,7 @@ std::string label(int index) {
 void NamesDialog::create() {
   for (int i = 1; i <= kSeats; ++i) {
     window_.add_field(TxtPlayer_0 + i, allowed_in_name, {"MS Sans Serif", 7.8F});
+    window_.name_field(TxtPlayer_0 + i, kWhose[static_cast<std::size_t>(i - 1)]);
   }
   window_.add_shape(Shape1_0, kShape0Colour);
   window_.add_shape(Shape1_1, kShape1Colour);

@@ -1,32 +1,16 @@
 #include "qt/chronicle_line.h"
 
-#include <QAccessibleWidget>
+#include <QAccessible>
 #include <QPainter>
 #include <algorithm>
+
+#include "qt/accessible_notice.h"
 
 namespace tombrello::qt {
 namespace {
 
 constexpr int kMargin = 8;
 constexpr int kGap = 24;  // between the two parts
-
-/// Assistive technology reads out what a notification shows.
-class AccessibleLine : public QAccessibleWidget {
- public:
-  explicit AccessibleLine(ChronicleLine& line)
-      : QAccessibleWidget(&line, QAccessible::Notification), line_(line) {}
-  QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Name ? line_.text() : QString();
-  }
-
- private:
-  const ChronicleLine& line_;
-};
-
-QAccessibleInterface* line_interface(const QString&, QObject* object) {
-  auto* line = dynamic_cast<ChronicleLine*>(object);
-  return line == nullptr ? nullptr : new AccessibleLine(*line);
-}
 
 // Whole words go from the beginning, until the rest has room.
 QString end_of(const QString& text, int room, const QFontMetrics& letters) {
@@ -43,7 +27,7 @@ QString end_of(const QString& text, int room, const QFontMetrics& letters) {
 }  // namespace
 
 ChronicleLine::ChronicleLine(QWidget* parent) : QLabel(parent) {
-  QAccessible::installFactory(line_interface);
+  make_notice(*this);
   setObjectName("chronicle");
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -58,6 +42,7 @@ void ChronicleLine::tell(const std::string& now, const std::string& then) {
   then_ = QString::fromStdString(then);
   const QString whole = then_.isEmpty() ? now_ : now_ + QString::fromUtf8(" — ") + then_;
   setText(whole);
+  setAccessibleName(whole);
   setToolTip(whole.toHtmlEscaped());  // wrapped where it is long
   update();
   if (!QAccessible::isActive()) return;

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qt/accessible_notice.h"
 #include "qt/canvas.h"
 #include "qt/table_widget.h"
 #include "qt/text_style.h"
@@ -47,6 +48,7 @@ void set_headings_off(QTextDocument& document) {
 Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_colour,
              long back_colour, QWidget& parent, WindowEvents& events)
     : QTextEdit(&parent), id_(id), events_(events) {
+  make_notice(*this);
   setReadOnly(true);
   setTextInteractionFlags(Qt::NoTextInteraction);
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -61,6 +63,7 @@ Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_
   setFont(control_font(font));
   document()->setDocumentMargin(kPanelMargin);
   setPlainText(QString::fromStdString(text));
+  setAccessibleName(toPlainText());
   set_headings_off(*document());
   setCursor(Qt::ArrowCursor);
   viewport()->setCursor(Qt::ArrowCursor);

@@ -176,6 +176,10 @@ void DesktopWindow::add_field(ControlId field, FieldRule rule, const Font& font)
   overlay_.add_field(field, rule, font);
 }
 
+void DesktopWindow::name_field(ControlId field, const std::string& name) {
+  overlay_.name_field(field, name);
+}
+
 void DesktopWindow::add_shape(ControlId shape, Colour colour) {
   overlay_.add_shape(shape, colour);
 }

@@ -54,6 +54,7 @@ class DesktopWindow : public Window {
   void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
                  long back_colour) override;
   void add_field(ControlId field, FieldRule rule, const Font& font) override;
+  void name_field(ControlId field, const std::string& name) override;
   void add_shape(ControlId shape, Colour colour) override;
   void add_picture(ControlId control, Picture picture) override;
   void place(ControlId control, const Area& area) override { overlay_.place(control, area); }

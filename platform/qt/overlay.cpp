@@ -29,6 +29,12 @@ void Overlay::add_field(ControlId field, FieldRule rule, const Font& font) {
   add(field, std::make_unique<Field>(field, rule, font, table_, events_));
 }
 
+void Overlay::name_field(ControlId field, const std::string& name) {
+  if (Placed* placed = find(field)) {
+    placed->control->widget().setAccessibleName(QString::fromStdString(name));
+  }
+}
+
 void Overlay::add_shape(ControlId shape, Colour colour) {
   add(shape, std::make_unique<ShapeControl>(colour, table_));
 }

@@ -111,6 +111,8 @@ class Window {
                          long text_colour, long back_colour) = 0;
   /// What `rule` doesn't take can't be typed or pasted into a field.
   virtual void add_field(ControlId field, FieldRule rule, const Font& font) = 0;
+  /// What assistive technology calls a field, where it asks for names.
+  virtual void name_field(ControlId, const std::string& /*name*/) {}
   virtual void add_shape(ControlId shape, Colour colour) = 0;
   virtual void add_picture(ControlId control, Picture picture) = 0;
   virtual void place(ControlId control, const Area& area) = 0;

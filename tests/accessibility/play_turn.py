@@ -79,6 +79,10 @@ def main():
     listener.register("object:state-changed:showing")
     _, opening = wait_for(lambda n: n.startswith("Tombrello: fai clic"), "the opening")
     act(opening, "Press")
+    act(wait_for(lambda n: n == "Help", "the entry of the help")[1], "Press")
+    wait_for(lambda n: n.startswith("IL MOUSE"), "the help")
+    act(wait_for(lambda n: n == "Nomi dei giocatori", "the entry of the names")[1], "Press")
+    wait_for(lambda n: n == "Nome del compagno", "the field of a name")
     for seat in ("OVEST", "NORD", "EST", "TU"):
         wait_for(lambda n: f"carta di {seat}" in n or (seat == "TU" and "tua carta" in n), f"the draw for {seat}")
         _, deck = wait_for(lambda n: n == "Mazzo", "the deck")
@@ -96,8 +100,9 @@ def main():
     wait_for(lambda n: n == name, "the third card lowered")
     act(wait_for(lambda n: n == name, "it")[1], "Press")
     wait_for(lambda n: "Gioca OVEST" in n or "OVEST: " in n, "the next seat")
-    if not any(name.startswith("Tocca a te") for name in announced):
-        sys.exit(f"the own turn isn't announced, but {announced}")
+    for beginning in ("IL MOUSE", "Tocca a te"):
+        if not any(name.startswith(beginning) for name in announced):
+            sys.exit(f"{beginning} isn't announced, but {announced}")
     print(f"drawn, selected, lowered, discarded: {name}")
 
 
