@@ -97,6 +97,13 @@ void Program::field_confirmed(ControlId) {
   names_.end(true);
 }
 
+// There is one, of a tie in the draw for dealer.
+void Program::message(const std::string& text) {
+  chronicle_.remark("Parità tra le carte più alte: si ripete");
+  chronicle_.show();
+  window_.message_box(text, Buttons::ok);
+}
+
 // What can't be kept is said once; the game goes on.
 void Program::Set_Write() {
   settings_.Set_Write();

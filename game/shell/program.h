@@ -75,7 +75,7 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   void uncheck_replay() override { window_.set_checked(menu_replay, false); }
   void dealer_card_turned() override { names_.end(false); }
   void deal_begins() override { names_.end(false); }
-  void message(const std::string& text) override { window_.message_box(text, Buttons::ok); }
+  void message(const std::string& text) override;
 
  private:
   void Form_Load();

@@ -133,6 +133,18 @@ TEST_F(ChronicleTest, ARemarkGoesWithItsMoment) {
   EXPECT_NE(now(), refusal);
 }
 
+TEST(Tie, IsSaidWhileItsBoxStands) {
+  Game game(1);
+  std::string said;
+  game.window.on_box = [&] { said = game.window.told_now + " " + game.window.told_then; };
+  game.dismiss().press_deck(4).then([&] {
+    EXPECT_TRUE(game.window.told_now.starts_with("Scelta del cartaro")) << game.window.told_now;
+  });
+  game.play();
+  EXPECT_TRUE(said.starts_with("Parità")) << said;
+  EXPECT_NE(said.find(" · TU "), said.npos) << said;
+}
+
 TEST(Refusals, SayWhyCardsDropBack) {
   const auto said = [](Refusal why, const char* names, const char* meld = "") {
     return sentence_of(why, some(names), some(meld));
