@@ -61,11 +61,11 @@ struct Geometry {
   Place hand_card(int k, bool raised) const;  ///< of seat 1
   /// What is seen of it among so many: the next card covers all but a step.
   Place hand_card_seen(int k, int cards, bool raised) const;
-  Place hand_box() const;                     ///< erases seat 1's hand, raised cards too
-  Place back(int seat, int k) const;          ///< seats 2..4
-  Place backs_box(int seat) const;            ///< erases the backs; seats 2..4
-  Place landing(int seat) const;              ///< of a card drawn from the stock; seats 2..4
-  Place open_card(int seat, int k) const;     ///< when the hand is over; seats 2..4
+  Place hand_box() const;                  ///< erases seat 1's hand, raised cards too
+  Place back(int seat, int k) const;       ///< seats 2..4
+  Place backs_box(int seat) const;         ///< erases the backs; seats 2..4
+  Place landing(int seat) const;           ///< of a card drawn from the stock; seats 2..4
+  Place open_card(int seat, int k) const;  ///< when the hand is over; seats 2..4
 
   // Strips of melds: entry k of a seat's list, as painted.
   Place strip(int seat) const;
