@@ -29,8 +29,7 @@ class Memory : public PlayingSession {
 // One hand after the other; a match that is over is followed by a run of another. The first hands
 // fill what is kept on purpose. TOMBRELLO_HANDS asks for more of them.
 TEST_F(Memory, HandsLeaveNothingBehind) {
-  const char* const asked = std::getenv("TOMBRELLO_HANDS");
-  const int wanted = asked == nullptr ? 4 : std::atoi(asked);
+  const int wanted = asked_for("TOMBRELLO_HANDS", 4);
   int hands = 0;
   int runs = 0;
   while (hands < wanted) {
