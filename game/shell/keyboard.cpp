@@ -3,8 +3,8 @@
 namespace tombrello {
 
 void Program::before_wait() {
-  chronicle_.show();
   mark_.refresh();
+  chronicle_.show(mark_.by_keys());
 }
 
 void Program::moved(float x, float y) {
@@ -12,7 +12,12 @@ void Program::moved(float x, float y) {
   mark_.pointer_moved(x, y);
 }
 
+// A panel over the table takes the keys: who has read it doesn't mean a card under it.
 void Program::key_pressed(Key key) {
+  if (panels_.any_open() && key != Key::help) {
+    if (key == Key::enter || key == Key::space || key == Key::escape) panels_.hide_all();
+    return;
+  }
   switch (key) {
     case Key::enter:
       return press_enter();
@@ -21,7 +26,7 @@ void Program::key_pressed(Key key) {
     case Key::help:
       return panels_.menu_help_Click();
     case Key::escape:
-      return panels_.hide_all();
+      return;
     default:
       return mark_.move(key);
   }

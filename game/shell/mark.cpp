@@ -1,6 +1,7 @@
 #include "shell/mark.h"
 
 #include <cmath>
+#include <utility>
 
 #include "table/painted_table.h"
 
@@ -19,6 +20,8 @@ float distance(PressPoint a, PressPoint b) {
 
 void Mark::pointer_moved(float x, float y) {
   by_keys_ = false;
+  spot_.reset();
+  own_card_ = 0;
   at_ = {x, y};
   mark_under_pointer();
 }
@@ -41,7 +44,7 @@ void Mark::show(const std::optional<Area>& area) {
 void Mark::refresh() {
   if (by_keys_ || window_.wants_places()) spots_ = places_.spots();
   if (by_keys_) {
-    mark_nearest();
+    mark_again();
   } else {
     mark_under_pointer();
   }
@@ -55,30 +58,54 @@ void Mark::refresh() {
   window_.set_places(told, focus);
 }
 
-void Mark::mark_nearest() {
-  spot_.reset();
+// A card stays marked while it rises and sinks. From elsewhere the mark comes into the hand at its
+// last card, which is the one just drawn.
+void Mark::mark_again() {
+  spot_ = nearest();
+  if (!spot_) return show(std::nullopt);
+  if (own_card_ > 0 || spots_[*spot_].own_card > 0) {
+    const auto card = own_card(own_card_ > 0 ? own_card_ : kHandSlots);
+    if (card) spot_ = card;
+  }
+  own_card_ = spots_[*spot_].own_card;
+  show(spots_[*spot_].told.area);
+}
+
+std::optional<std::size_t> Mark::nearest() const {
+  std::optional<std::size_t> best;
   for (std::size_t i = 0; i < spots_.size(); ++i) {
     if (!spots_[i].acts()) continue;
-    if (!spot_ || distance(at_, any_point(spots_[i])) < distance(at_, any_point(spots_[*spot_]))) {
-      spot_ = i;
+    if (!best || distance(at_, any_point(spots_[i])) < distance(at_, any_point(spots_[*best]))) {
+      best = i;
     }
   }
-  show(spot_ ? std::optional(spots_[*spot_].told.area) : std::nullopt);
+  return best;
+}
+
+// The card in this slot or, in a shorter hand, the last one.
+std::optional<std::size_t> Mark::own_card(int slot) const {
+  std::optional<std::size_t> found;
+  for (std::size_t i = 0; i < spots_.size(); ++i) {
+    if (spots_[i].acts() && 0 < spots_[i].own_card && spots_[i].own_card <= slot) found = i;
+  }
+  return found;
 }
 
 void Mark::choose(std::size_t spot) {
   spot_ = spot;
+  own_card_ = spots_[spot].own_card;
   at_ = any_point(spots_[spot]);
   show(spots_[spot].told.area);
 }
 
 void Mark::move(Key key) {
   spots_ = places_.spots();
-  const bool first_key = !by_keys_;
-  by_keys_ = true;
-  mark_nearest();
+  if (!std::exchange(by_keys_, true)) {  // shows where the keys begin
+    if (const auto spot = nearest()) choose(*spot);
+    return;
+  }
+  mark_again();
   if (!spot_) return;
-  if (first_key) return choose(*spot_);  // shows where the keys begin
   std::optional<std::size_t> target;
   if (key == Key::right || key == Key::next) target = next(*spot_, 1);
   if (key == Key::left || key == Key::previous) target = next(*spot_, -1);

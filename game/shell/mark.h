@@ -19,6 +19,7 @@ class Mark {
   void move(Key key);
   /// Before each wait: the table may have changed under the mark.
   void refresh();
+  bool by_keys() const { return by_keys_; }  ///< they moved it last
 
   /// Where the marked place takes a press of this button, if the keys have marked one.
   std::optional<PressPoint> point(Button button) const;
@@ -27,7 +28,9 @@ class Mark {
 
  private:
   void mark_under_pointer();
-  void mark_nearest();
+  void mark_again();
+  std::optional<std::size_t> nearest() const;
+  std::optional<std::size_t> own_card(int slot) const;
   void choose(std::size_t spot);
   void show(const std::optional<Area>& area);
   std::optional<std::size_t> next(std::size_t from, int direction) const;
@@ -40,6 +43,7 @@ class Mark {
   bool by_keys_ = false;
   PressPoint at_{-1, -1};            ///< of the pointer, or of the marked place
   std::optional<std::size_t> spot_;  ///< the marked place, with the keys
+  int own_card_ = 0;                 ///< its slot, if it is a card of the player's
   std::optional<Area> shown_;
 };
 

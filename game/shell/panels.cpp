@@ -25,6 +25,10 @@ void Panels::hide_all() {
   for (const ControlId panel : {TxtItaliano, TxtHelp, Text4}) window_.set_visible(panel, false);
 }
 
+bool Panels::any_open() const {
+  return window_.visible(TxtItaliano) || window_.visible(TxtHelp) || window_.visible(Text4);
+}
+
 void Panels::toggle(ControlId panel) {
   for (const ControlId other : {TxtItaliano, TxtHelp, Text4}) {
     if (other != panel) window_.set_visible(other, false);

@@ -13,6 +13,7 @@ class Panels {
   /// Creates them, hidden.
   void create();
   void hide_all();
+  bool any_open() const;
 
   void menu_help_Click() { toggle(TxtHelp); }
   void istruzioni_Click() { toggle(TxtItaliano); }

@@ -105,6 +105,7 @@ void Places::add_own_hand(Spots& spots) const {
             (selected ? ", scelta" : ""),
         g_.hand_card_seen(k, s_.n_mano[1], selected));
     Spot& spot = spots.back();
+    spot.own_card = k;
     spot.told.selected = selected;
     // With cards selected a left press on any of the fan lowers them all.
     if (!spot.press && spot.select) spot.press = spot.select;

@@ -18,6 +18,7 @@ struct PressPoint {
 /// A place of the table, with the points at which the pointer's zones give what it is for.
 struct Spot {
   TablePlace told;
+  int own_card = 0;                  ///< its slot, for a card of seat 1's hand
   std::optional<PressPoint> press;   ///< for the left button
   std::optional<PressPoint> select;  ///< for the right button
   bool acts() const { return press || select; }

@@ -1,9 +1,15 @@
 #include "shell/pointer.h"
 
+#include "melds/meld_range.h"
+
 namespace tombrello {
 namespace {
 
 constexpr const char* kDrawFirst = "Prima pesca: fai clic sul Pozzo o sul Tallone";
+constexpr const char* kHasDrawn = "Hai già pescato: ora cala o scarta";
+constexpr const char* kLeftPart = "Dell'ultima carta risponde la parte sinistra: fai clic lì";
+constexpr const char* kLowerHalf = "Per attaccare fai clic sulla metà bassa della combinazione";
+constexpr const char* kOthersMeld = "Si attacca solo alle combinazioni della tua coppia";
 constexpr const char* kLastCard = "L'ultima carta non si seleziona: si può solo scartare";
 
 }  // namespace
@@ -52,6 +58,8 @@ void Pointer::press_left(float x, float y) {
     if (is_on_fan(x, y)) {
       s_.x_click = x;
       s_.azione = kDiscard;
+    } else {
+      tell_why_nothing_happens(x, y);
     }
     return;
   }
@@ -90,6 +98,24 @@ void Pointer::press_on_melds(float x, float y) {
 
 void Pointer::tell_to_draw_first() {
   if (s_.phase == Phase::hand && s_.di_turno == 1 && !s_.ha_pescato) chronicle_.remark(kDrawFirst);
+}
+
+// Where a player may well press after the draw, and no zone is.
+void Pointer::tell_why_nothing_happens(float x, float y) {
+  if (s_.phase != Phase::hand || s_.azione != kNoAction) return;
+  const int cards = s_.n_mano[1];
+  const bool raised = s_.mano[1][cards] > kSelected;
+  if (g_.hand_card(cards, raised).holds(x, y)) return chronicle_.remark(kLeftPart);
+  if (g_.pile().holds(x, y) || g_.stock().holds(x, y)) return chronicle_.remark(kHasDrawn);
+  if (count_selected() != 1) return;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const bool own = seat % 2 == 1;
+    for (const Meld meld : melds_of(s_, seat)) {
+      for (int k = meld.first; k <= meld.last; ++k) {
+        if (g_.strip_card(seat, k).holds(x, y)) chronicle_.remark(own ? kLowerHalf : kOthersMeld);
+      }
+    }
+  }
 }
 
 void Pointer::Form_MouseMove(float x, float y) {

@@ -53,6 +53,7 @@ class Pointer {
   void press_before_draw(float x, float y);
   void press_on_melds(float x, float y);
   void tell_to_draw_first();
+  void tell_why_nothing_happens(float x, float y);
   Meaning right_press(float x, float y) const;
   Meaning left_press(float x, float y) const;
   Meaning press_on_side(int side, float x) const;

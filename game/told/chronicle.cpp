@@ -24,12 +24,18 @@ std::string total(const State& s, int team) {
 }  // namespace
 
 Chronicle::Moment Chronicle::moment() const {
-  return {
-      static_cast<int>(s_.phase), s_.di_turno, s_.ha_pescato ? 1 : 0, s_.n_mano[1], s_.numero_mano,
-      selected_cards(s_)};
+  return {static_cast<int>(s_.phase),
+          s_.di_turno,
+          s_.ha_pescato ? 1 : 0,
+          s_.n_mano[1],
+          s_.numero_mano,
+          selected_cards(s_),
+          by_keys_ ? 1 : 0,
+          has_discarded_ ? 1 : 0};
 }
 
-void Chronicle::show() {
+void Chronicle::show(bool by_keys) {
+  by_keys_ = by_keys;
   const Moment now_is = moment();
   if (now_is == shown_ && !changed_) return;
   if (now_is != shown_ && !changed_) remark_.clear();  // it was about the moment before
@@ -58,7 +64,8 @@ std::string Chronicle::now() const {
     case Phase::deal:
       return s_.cartaro == 1 ? "Dai tu le carte" : name_of(s_.cartaro) + " dà le carte";
     case Phase::hand:
-      return s_.di_turno == 1 ? own_turn() : "Gioca " + name_of(s_.di_turno);
+      if (s_.di_turno == 1 && !has_discarded_) return own_turn();
+      return others_turn(has_discarded_ ? next_seat(1) : s_.di_turno);
     case Phase::open_hands:
       return "Mano finita: si contano i punti";
     case Phase::count:
@@ -75,22 +82,34 @@ std::string Chronicle::dealer() const {
 
 std::string Chronicle::own_turn() const {
   if (!s_.ha_pescato) {
-    const std::string draw = "Tocca a te: pesca dal Pozzo o dal Tallone";
+    const std::string draw = "Tocca a te: prendi la carta scoperta (Pozzo) o pesca dal Tallone";
     return nobody_can_go_out(s_) ? draw + " (nessuno può più chiudere)" : draw;
   }
-  if (s_.n_mano[1] == 1) return "Ultima carta: fai clic per scartarla e chiudere";
+  if (s_.n_mano[1] == 1) {
+    return by_keys_ ? "Ultima carta: con Invio la scarti e chiudi"
+                    : "Ultima carta: fai clic per scartarla e chiudere";
+  }
   switch (selected_cards(s_)) {
     case 0:
-      return "Scarta (clic) o seleziona le carte da calare (tasto destro)";
+      return by_keys_ ? "Scarta (Invio) o seleziona le carte da calare (barra spaziatrice)"
+                      : "Scarta (clic) o seleziona le carte da calare (tasto destro)";
     case 1:
-      return s_.n_calate[1] + s_.n_calate[3] == 0
-                 ? "Selezionane almeno altre due per calare"
+      if (s_.n_calate[1] + s_.n_calate[3] == 0) return "Selezionane almeno altre due per calare";
+      return by_keys_
+                 ? "Attaccala a una vostra combinazione (Invio) o selezionane altre due"
                  : "Attaccala (clic sulla metà bassa di una combinazione) o selezionane altre due";
     case 2:
       return "Selezionane almeno un'altra per calare";
     default:
-      return "Cala: fai clic sopra la tua mano, dove appare la freccia, o davanti al compagno";
+      return by_keys_ ? "Cala: Invio nel riquadro sopra la tua mano o davanti al compagno"
+                      : "Cala: fai clic sopra la tua mano, dove appare la freccia, o davanti al "
+                        "compagno";
   }
+}
+
+std::string Chronicle::others_turn(int seat) const {
+  return "Gioca " + name_of(seat) +
+         (by_keys_ ? " (tieni premuta la barra per fare in fretta)" : "");
 }
 
 std::string Chronicle::count() const {
@@ -138,12 +157,14 @@ void Chronicle::turned_for_dealer(int seat, int card) {
 }
 
 void Chronicle::hand_dealt() {
+  has_discarded_ = false;
   begin_round();
   remark_.clear();
 }
 
 void Chronicle::drew(int seat, int pile_card) {
   if (seat != 1) remark_.clear();
+  has_discarded_ = false;
   tell(seat, pile_card == 0 ? "Tallone" : "Pozzo");
 }
 
@@ -157,7 +178,10 @@ void Chronicle::added(int seat, int, int card) {
 
 // With the player's own discard a new round of the others begins.
 void Chronicle::discarded(int seat, int card) {
-  if (seat == 1) begin_round();
+  if (seat == 1) {
+    begin_round();
+    has_discarded_ = true;
+  }
   tell(seat, "scarta " + short_name(card));
 }
 

@@ -17,8 +17,9 @@ class Chronicle : public Events {
  public:
   Chronicle(const State& state, Window& window) : s_(state), window_(window) {}
 
-  /// Shows the line as it stands. Called before each wait; quick when nothing has changed.
-  void show();
+  /// Shows the line as it stands, for hands on the mouse or on the keys. Called before each wait;
+  /// quick when nothing has changed.
+  void show(bool by_keys = false);
   /// A sentence that stands until the game goes on: what the pointer refused, or a trouble of
   /// the program.
   void remark(const std::string& sentence);
@@ -36,7 +37,7 @@ class Chronicle : public Events {
 
  private:
   /// All that the left part depends on, but for the remark.
-  using Moment = std::array<int, 6>;
+  using Moment = std::array<int, 8>;
   Moment moment() const;
 
   void begin_round();
@@ -46,6 +47,7 @@ class Chronicle : public Events {
   std::string now() const;
   std::string dealer() const;
   std::string own_turn() const;
+  std::string others_turn(int seat) const;
   std::string count() const;
   std::string then() const;
 
@@ -56,6 +58,8 @@ class Chronicle : public Events {
   int telling_ = 0;                ///< the seat that the last sentence is about, 0 for all
   Moment shown_{-1};
   bool changed_ = true;
+  bool by_keys_ = false;
+  bool has_discarded_ = false;  ///< the player, in this turn
 };
 
 }  // namespace tombrello

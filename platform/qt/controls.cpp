@@ -1,9 +1,11 @@
 #include "qt/controls.h"
 
 #include <QFontMetrics>
+#include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <algorithm>
@@ -67,6 +69,7 @@ Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_
   set_headings_off(*document());
   setCursor(Qt::ArrowCursor);
   viewport()->setCursor(Qt::ArrowCursor);
+  parent.installEventFilter(this);
 }
 
 void Panel::fit(const Area& area, const TableGeometry& geometry) {
@@ -92,6 +95,23 @@ void Panel::mouseMoveEvent(QMouseEvent* event) {
 void Panel::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
   if (rect().contains(event->position().toPoint())) events_.control_clicked(id_);
+}
+
+// It takes no keyboard: while it shows, those keys of the table that scroll are its.
+bool Panel::eventFilter(QObject* table, QEvent* event) {
+  static const QHash<int, QAbstractSlider::SliderAction> kScrolling = {
+      {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},
+      {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
+      {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+      {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+      {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+      {Qt::Key_End, QAbstractSlider::SliderToMaximum}};
+  if (event->type() != QEvent::KeyPress || !isVisible())
+    return QTextEdit::eventFilter(table, event);
+  const auto action = kScrolling.find(static_cast<QKeyEvent*>(event)->key());
+  if (action == kScrolling.end()) return false;
+  verticalScrollBar()->triggerAction(*action);
+  return true;
 }
 
 Field::Field(ControlId id, FieldRule rule, const Font& font, QWidget& parent, WindowEvents& events)

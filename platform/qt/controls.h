@@ -32,6 +32,7 @@ class Panel : public QTextEdit, public Control {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  bool eventFilter(QObject* table, QEvent* event) override;
 
  private:
   ControlId id_;

@@ -70,10 +70,12 @@ TEST_F(ChronicleTest, TellsWhatCanBeDoneNow) {
   s_.tallone = kCards;
   s_.mazzo[kCards] = 1;
   for (auto& hand : s_.mano) hand.fill(2);
-  EXPECT_EQ(now(), "Tocca a te: pesca dal Pozzo o dal Tallone (nessuno può più chiudere)");
+  EXPECT_EQ(now(),
+            "Tocca a te: prendi la carta scoperta (Pozzo) o pesca dal Tallone (nessuno può più "
+            "chiudere)");
   s_.mano = {};
   s_.n_mano[1] = 13;
-  EXPECT_EQ(now(), "Tocca a te: pesca dal Pozzo o dal Tallone");
+  EXPECT_EQ(now(), "Tocca a te: prendi la carta scoperta (Pozzo) o pesca dal Tallone");
   s_.ha_pescato = true;
   EXPECT_EQ(now(), "Scarta (clic) o seleziona le carte da calare (tasto destro)");
   s_.mano[1][1] = 1 + kSelected;
@@ -202,6 +204,45 @@ TEST(Marked, APressActsJustWhereThereIsAMark) {
   game.then(press).play();
   EXPECT_GT(marked, 100);
   EXPECT_GT(unmarked, 100);
+}
+
+// The mark comes into the hand at the card just drawn, and stays on a card that rises and sinks.
+TEST(Keys, MarkTheCardDrawnAndStayOnACard) {
+  Game game(7, kept_deal());
+  HeadlessWindow& window = game.window;
+  const auto key = [&](Key struck) { game.then([&, struck] { window.key(struck); }); };
+  game.until_own_turn();
+  game.then([&] { window.move(400, 300); });
+  for (const Key each : {Key::left, Key::enter, Key::left, Key::left, Key::space}) key(each);
+  game.then([&] {
+    EXPECT_GT(game.s().mano[1][12], kSelected) << "two to the left of the last";
+    EXPECT_EQ(window.told_now, "Selezionane almeno altre due per calare");
+    window.key(Key::space);
+  });
+  key(Key::help);
+  key(Key::enter);
+  game.then([&] {
+    EXPECT_EQ(window.visible(TxtHelp), false);
+    EXPECT_EQ(game.s().n_mano[1], 14) << "the panel took the key, and no card went";
+    EXPECT_LT(game.s().mano[1][12], kSelected);
+    EXPECT_EQ(window.told_now, "Scarta (Invio) o seleziona le carte da calare (barra spaziatrice)");
+  });
+  game.play_to_end();
+}
+
+// A press that the player may well mean, and for which there is no zone.
+TEST(Line, TellsWhyAPressDoesNothing) {
+  Game game(7, kept_deal());
+  const auto said = [&](float x, float y, const char* sentence) {
+    game.then([=, &game] { game.window.press(x, y); });
+    game.then([=, &game] { EXPECT_EQ(game.window.told_now, sentence); });
+  };
+  game.until_own_turn();
+  said(300, 540, "Prima pesca: fai clic sul Pozzo o sul Tallone");
+  game.then([&] { game.window.press(430, 300); });
+  said(430, 300, "Hai già pescato: ora cala o scarta");
+  said(565, 540, "Dell'ultima carta risponde la parte sinistra: fai clic lì");
+  game.play_to_end();
 }
 
 // With keys alone: the opening, the draw, cards drawn, selected, discarded, "Continua".
