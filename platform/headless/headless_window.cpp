@@ -40,24 +40,27 @@ std::vector<std::string> MemoryArchive::list(const std::string& folder, std::siz
   return names;
 }
 
-void HeadlessWindow::serve_events() {
-  if (++passes_ > most_passes) close();
-  if (on_pass && !closing_) on_pass();
-  if (closing_) return;
-  if (timer_.running()) {
-    end_timer();
+void ScriptedPlayer::pass(Window& window, HeadlessTimer& timer, WindowEvents* events) {
+  if (++passes_ > most_passes) window.close();
+  if (on_pass && !window.closing()) on_pass();
+  if (window.closing()) return;
+  if (timer.running()) {
+    timer.end();
+    if (events != nullptr) events->timer_ticked();
   } else if (!script.empty()) {
     const Action action = std::move(script.front());
     script.pop_front();
     action();
   } else {
-    close();
+    window.close();
   }
 }
 
-void HeadlessWindow::end_timer() {
-  timer_.running_ = false;
-  if (events_ != nullptr) events_->timer_ticked();
+Answer ScriptedPlayer::next_answer() {
+  if (answers.empty()) return Answer::yes;
+  const Answer answer = answers.front();
+  answers.pop_front();
+  return answer;
 }
 
 Answer HeadlessWindow::message_box(const std::string& text, Buttons buttons) {
@@ -67,11 +70,7 @@ Answer HeadlessWindow::message_box(const std::string& text, Buttons buttons) {
   in_box_ = true;
   if (on_box) on_box();
   in_box_ = false;
-  if (closing_ || buttons == Buttons::ok) return otherwise;
-  if (answers.empty()) return Answer::yes;
-  const Answer answer = answers.front();
-  answers.pop_front();
-  return answer;
+  return closing_ || buttons == Buttons::ok ? otherwise : next_answer();
 }
 
 // A box is modal: nothing else takes a press or a key while it stands.

@@ -16,11 +16,11 @@ namespace tombrello {
 class HeadlessTimer : public Timer {
  public:
   void start(int milliseconds) override;
+  void end() { running_ = false; }
   bool running() const { return running_; }
   int period() const { return period_; }  ///< of the last start, milliseconds
 
  private:
-  friend class HeadlessWindow;
   bool running_ = false;
   int period_ = 0;
 };
@@ -44,14 +44,11 @@ class MemoryArchive : public Archive {
   Trouble trouble_ = Trouble::none;
 };
 
-/// A window that nobody sees. What happens in it comes from `on_pass` and `script`, from inside
-/// `serve_events`; what a person couldn't do, such as choosing a disabled entry or typing into a
-/// hidden field, isn't passed on.
-class HeadlessWindow : public Window {
+/// The person before a window of a test, whose acts come from `on_pass` and `script`, from inside
+/// the window's `serve_events`.
+class ScriptedPlayer {
  public:
   using Action = std::function<void()>;
-
-  explicit HeadlessWindow(HeadlessTimer& timer) : timer_(timer) {}
 
   /// Runs at the start of every pass, whatever the game waits for.
   Action on_pass;
@@ -66,6 +63,23 @@ class HeadlessWindow : public Window {
   std::deque<Answer> answers;
   /// The texts of the boxes so far.
   std::vector<std::string> boxes;
+
+  int passes() const { return passes_; }
+
+ protected:
+  /// One pass of `window`, whose handlers are `events`.
+  void pass(Window& window, HeadlessTimer& timer, WindowEvents* events);
+  Answer next_answer();
+
+ private:
+  int passes_ = 0;
+};
+
+/// A window that nobody sees. What a person couldn't do in it, such as choosing a disabled entry
+/// or typing into a hidden field, isn't passed on.
+class HeadlessWindow : public Window, public ScriptedPlayer {
+ public:
+  explicit HeadlessWindow(HeadlessTimer& timer) : timer_(timer) {}
 
   /// What was set last.
   std::string told_now;
@@ -87,7 +101,6 @@ class HeadlessWindow : public Window {
 
   const std::string& caption() const { return caption_; }
   bool shown() const { return shown_; }
-  int passes() const { return passes_; }
   /// How long `show_now` held the table, all in all.
   int milliseconds_shown() const { return milliseconds_shown_; }
   /// Top to bottom and left to right, the entries of a parent or of the bar.
@@ -102,7 +115,7 @@ class HeadlessWindow : public Window {
   Surface& surface() override { return surface_; }
   void set_caption(const std::string& text) override { caption_ = text; }
   void show_maximised() override { shown_ = true; }
-  void serve_events() override;
+  void serve_events() override { pass(*this, timer_, events_); }
   void show_now(int milliseconds) override { milliseconds_shown_ += milliseconds; }
   bool closing() const override { return closing_; }
   void close() override { closing_ = true; }
@@ -154,7 +167,6 @@ class HeadlessWindow : public Window {
   };
 
   void add_control(ControlId control, std::string text, FieldRule rule = nullptr);
-  void end_timer();
 
   HeadlessTimer& timer_;
   WindowEvents* events_ = nullptr;
@@ -166,7 +178,6 @@ class HeadlessWindow : public Window {
   bool shown_ = false;
   bool closing_ = false;
   bool in_box_ = false;
-  int passes_ = 0;
   int milliseconds_shown_ = 0;
   int highest_ = 0;
 };

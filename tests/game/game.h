@@ -10,11 +10,20 @@
 #include "tests/game/seen.h"
 #include "tools/simulation/quiet.h"
 #include "tools/simulation/script.h"
+#ifdef ON_THE_DESKTOP
+#include "tests/qt/offscreen_window.h"
+#endif
 
 namespace tombrello {
 
-/// A whole program on a headless window. `play` runs it until the script has run out, for the
-/// player leaves then.
+#ifdef ON_THE_DESKTOP
+using PlayedWindow = qt::OffscreenWindow;
+#else
+using PlayedWindow = HeadlessWindow;
+#endif
+
+/// A whole program on a headless window, or, with the same acts, on the desktop's. `play` runs it
+/// until the script has run out, for the player leaves then.
 class Game {
  public:
   explicit Game(std::uint64_t seed = 1, const std::string& settings = "",
@@ -29,7 +38,7 @@ class Game {
     play();
     EXPECT_TRUE(window.script.empty());
   }
-  Game& then(HeadlessWindow::Action action) {
+  Game& then(ScriptedPlayer::Action action) {
     window.script.push_back(std::move(action));
     return *this;
   }
@@ -94,7 +103,7 @@ class Game {
   }
 
   HeadlessTimer timer;
-  HeadlessWindow window{timer};
+  PlayedWindow window{timer};
   MemoryArchive archive;
   CountingClock clock;
   SilentMedia wave;

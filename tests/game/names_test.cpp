@@ -186,34 +186,5 @@ TEST(NamesDialog, ConfirmedInADealOrWhileTheOpenHandsAreShownWhatStoodStands) {
   EXPECT_GT(stood[1], 39U);
 }
 
-TEST(Repaint, ShowsWhatTheTableShowed) {
-  State s;
-  Geometry g;
-  HeadlessTimer timer;
-  HeadlessWindow window(timer);
-  PaintedTable table(s, g, window);
-  for (int k = 1; k <= kCards; ++k) s.mazzo[k] = static_cast<std::int16_t>(k);
-  s.phase = Phase::hand;
-  s.tallone = kCards;
-  s.n_pozzo = 51;
-  s.pozzo.fill(9);
-  s.di_turno = 2;
-  s.n_mano = {0, 0, 5, 0, 0};
-  const auto pictures = [&] {
-    table.repaint();
-    return seen(window.surface(), Kind::pictures);
-  };
-  const std::string stock = "dorsov1 400,252.875 460,347.125";
-  const std::string fifth_back = "dorsoo0 20,230";
-  EXPECT_TRUE(has(pictures(), stock)) << "the last card lies there";
-  EXPECT_TRUE(has(pictures(), fifth_back));
-  s.holds_copy = true;
-  EXPECT_FALSE(has(pictures(), fifth_back)) << "the pile's top is weighed, not held";
-  s.stock_empty = true;
-  EXPECT_FALSE(has(pictures(), stock)) << "the last card was drawn";
-  s.phase = Phase::felt;
-  EXPECT_TRUE(pictures().empty()) << "after \"Continua\", before the deal";
-}
-
 }  // namespace
 }  // namespace tombrello

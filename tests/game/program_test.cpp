@@ -9,10 +9,10 @@ namespace {
 constexpr const char* kPrompt = "'Scelta cartaro - Clicca sul mazzo' 5,5 Arial 9 white";
 
 TEST(Opening, APictureOnGreyThatAClickAKeyOrAPressBesideDismisses) {
-  const std::vector<std::function<void(HeadlessWindow&)>> ways = {
-      [](HeadlessWindow& w) { w.click(quadro); }, [](HeadlessWindow& w) { w.press_key(quadro); },
-      [](HeadlessWindow& w) { w.press(700, 50); },
-      [](HeadlessWindow& w) { w.press(100, 300, Button::right); }};
+  const std::vector<std::function<void(PlayedWindow&)>> ways = {
+      [](PlayedWindow& w) { w.click(quadro); }, [](PlayedWindow& w) { w.press_key(quadro); },
+      [](PlayedWindow& w) { w.press(700, 50); },
+      [](PlayedWindow& w) { w.press(100, 300, Button::right); }};
   for (const auto& dismiss : ways) {
     Game game;
     game.then([&] {
@@ -140,137 +140,50 @@ TEST(Replay, MarkedDuringTheDrawItDealsTheDeckOfTheDraw) {
   game.play_to_end();
 }
 
-TEST(Menus, TheTree) {
-  Game game;
-  Lines tree;
-  const std::function<void(EntryId, std::string)> walk = [&](EntryId parent, std::string indent) {
-    for (const EntryId entry : game.window.entries(parent)) {
-      tree.push_back(indent + game.window.caption(entry));
-      walk(entry, indent + "-");
-    }
-  };
-  game.then([&] { walk(kMenuBar, ""); });
-  game.play();
-  EXPECT_EQ(tree, (Lines{"&Partita",
-                         "-Ripeti ultima mano",
-                         "-Continua",
-                         "-&Nomi dei giocatori",
-                         "&Regole",
-                         "&Opzioni",
-                         "-Velocità gioco",
-                         "--Bassa",
-                         "--Media",
-                         "--Alta",
-                         "&Suoni",
-                         "-Fruscio delle carte",
-                         "--No",
-                         "--Si",
-                         "&Musica",
-                         "-Nessuna",
-                         "-MODO SEQUENZIALE",
-                         "&Info",
-                         "&Help",
-                         "&Esci"}));
-}
-
-TEST(Menus, WhatIsEnabledWhen) {
-  Game game(4);  // without a kept deal
-  game.choose(menu_replay).then([&] {
-    EXPECT_EQ(game.window.boxes, (Lines{"Nessuna mano è stata ancora giocata"}));
-    EXPECT_FALSE(game.window.checked(menu_replay));
-  });
-  const auto expect = [&](const char* when, bool replay, bool go_on, bool names) {
-    game.then([=, &game] {
-      EXPECT_EQ(game.window.enabled(menu_replay), replay) << when;
-      EXPECT_EQ(game.window.enabled(menu_continue), go_on) << when;
-      EXPECT_EQ(game.window.enabled(personalize_players), names) << when;
-    });
-  };
-  expect("opening", true, false, true);
-  game.dismiss();
-  expect("draw", true, false, true);
-  game.press_deck();
-  expect("first card drawn", true, false, false);
-  game.until_own_turn();
-  expect("turn", false, false, false);
-  game.until_scoreboard();
-  expect("scoreboard", false, true, false);
-  game.choose(menu_continue).until_own_turn();
-  expect("next hand", false, false, false);
-  game.until([&] { return game.is_over() && !game.window.enabled(menu_continue); });
-  expect("match over", false, false, false);
-  game.then([&] {
-    const auto& totals = game.s().punti_totali;
-    EXPECT_GE(std::max(totals[1], totals[2]), kWinningTotal);
+TEST(Menus, ASpeedLastsForTheRunTheRustleIsWrittenAtOnce) {
+  Game game(1, kept_deal());
+  std::string quiet = kept_deal();
+  quiet.replace(quiet.find("UGO\r\n 1 ") + 6, 1, "0");
+  game.choose(velocita_3).then([&] { EXPECT_EQ(game.archive.writes, 0); });
+  for (const auto& [entry, file] :
+       {std::pair{menu_card_rustle_0, quiet}, {menu_card_rustle_1, kept_deal()}}) {
+    game.choose(entry).then(
+        [&game, file = file] { EXPECT_EQ(game.archive.files["config.zvq"], file); });
+  }
+  game.dismiss().then([&] {
+    EXPECT_EQ(game.s().ritardo_base, 0.5F) << "a match starts slow, whatever is checked";
+    EXPECT_TRUE(game.window.checked(velocita_3));
   });
   game.play_to_end();
 }
 
-TEST(Menus, ASpeedLastsForTheRunTheRustleIsWrittenAtOnce) {
-  Game game(1, kept_deal());
-  game.choose(velocita_3).dismiss().then([&] {
-    EXPECT_EQ(game.s().ritardo_base, 0.5F) << "a match starts slow, whatever is checked";
-    EXPECT_TRUE(game.window.checked(velocita_3));
+TEST(Menus, APanelLiesInFrontAndGoesAtAPressOnItOrBeside) {
+  Game game;
+  for (const auto& [entry, panel, area] : {std::tuple{menu_about, Text4, Area{0, 0, 150.8F, 80.1F}},
+                                           {istruzioni, TxtItaliano, Area{0, 0, 285, 197.7F}},
+                                           {menu_help, TxtHelp, Area{0, 0, 285, 197.7F}}}) {
+    game.choose(entry).then([&game, panel = panel, area = area] {
+      EXPECT_EQ(game.window.front(), panel);
+      EXPECT_EQ(game.window.area(panel), area);
+      game.window.click(panel);
+      EXPECT_FALSE(game.window.visible(panel));
+    });
+  }
+  game.choose(menu_help).dismiss().then([&] {
+    EXPECT_TRUE(game.window.visible(TxtHelp)) << "the picture's click is no press on the table";
   });
-  for (int index = 1; index <= 3; ++index) {
-    game.choose(velocita_0 + index).then([&game, index] {
-      EXPECT_EQ(game.s().ritardo_base, static_cast<float>(index) / 2);
-      for (int i = 1; i <= 3; ++i) EXPECT_EQ(game.window.checked(velocita_0 + i), i == index);
-      EXPECT_EQ(game.archive.writes, 0);
-    });
-  }
-  game.play();
-  Game rustle(1, kept_deal());
-  for (const int on : {0, 1}) {
-    rustle.choose(menu_about).choose(menu_card_rustle_0 + on).then([&rustle, on] {
-      EXPECT_FALSE(rustle.window.visible(Text4));
-      EXPECT_EQ(rustle.window.checked(menu_card_rustle_0), on == 0);
-      EXPECT_EQ(rustle.window.checked(menu_card_rustle_1), on == 1);
-      std::string file = kept_deal();
-      if (on == 0) file.replace(file.find("UGO\r\n 1 ") + 6, 1, "0");
-      EXPECT_EQ(rustle.archive.files["config.zvq"], file);
-    });
-  }
-  rustle.play();
+  game.press_deck().then([&] {
+    EXPECT_FALSE(game.window.visible(TxtHelp));
+    EXPECT_EQ(game.pictures().size(), 2U) << "it acted as well";
+  });
+  game.play_to_end();
 }
 
-TEST(Menus, PanelsReplaceEachOtherAndToggle) {
+TEST(Leaving, YesToEsciEndsTheGame) {
   Game game;
-  const auto shows = [&](ControlId panel) {
-    game.then([&game, panel] {
-      for (const ControlId other : {TxtHelp, TxtItaliano, Text4}) {
-        EXPECT_EQ(game.window.visible(other), other == panel);
-      }
-      EXPECT_TRUE(panel == 0 || game.window.front() == panel);
-    });
-  };
-  for (const auto& [entry, panel] :
-       {std::pair{menu_help, TxtHelp}, {istruzioni, TxtItaliano}, {menu_about, Text4}}) {
-    game.choose(menu_help == entry ? menu_about : menu_help).choose(entry);
-    shows(panel);
-    game.choose(entry);
-    shows(0);
-    game.choose(entry).then([&game, panel = panel] { game.window.click(panel); });
-    shows(0);
-  }
-  game.choose(menu_help).dismiss();
-  shows(TxtHelp);  // the picture's click isn't a press on the table
-  game.press_deck().then([&] { EXPECT_EQ(game.pictures().size(), 2U) << "it acted as well"; });
-  shows(0);
+  game.dismiss().choose(esci).then([] { FAIL() << "the window is closed"; });
   game.play();
-  EXPECT_EQ(game.window.area(TxtHelp), (Area{0, 0, 285, 197.7F}));
-  EXPECT_EQ(game.window.area(TxtItaliano), (Area{0, 0, 285, 197.7F}));
-  EXPECT_EQ(game.window.area(Text4), (Area{0, 0, 150.8F, 80.1F}));
-  EXPECT_TRUE(game.window.text(Text4).starts_with("Tombrello ver 3.3\n--"));
-}
-
-TEST(Leaving, EsciAsksAndNoGoesOn) {
-  Game game;
-  game.window.answers = {Answer::no, Answer::yes};
-  game.dismiss().choose(esci).then([&] { EXPECT_TRUE(has(game.texts(), kPrompt)); });
-  game.choose(esci).then([] { FAIL() << "the window is closed"; });
-  game.play();
-  EXPECT_EQ(game.window.boxes, (Lines{"Uscire da Tombrello?", "Uscire da Tombrello?"}));
+  EXPECT_EQ(game.window.boxes, Lines{"Uscire da Tombrello?"});
   EXPECT_TRUE(game.surface().items().empty());
   EXPECT_EQ(game.archive.writes, 0);
 }

@@ -253,6 +253,29 @@ TEST_F(TableTest, TheDealersScreen) {
                                "carta8 720,252.875 780,347.125"}));
 }
 
+TEST_F(TableTest, RepaintShowsWhatTheTableShowed) {
+  s_.phase = Phase::hand;
+  s_.tallone = kCards;
+  s_.n_pozzo = 51;
+  s_.pozzo.fill(9);
+  s_.di_turno = 2;
+  s_.n_mano = {0, 0, 5, 0, 0};
+  const auto repainted = [&] {
+    table_.repaint();
+    return pictures();
+  };
+  const std::string stock = "dorsov1 400,252.875 460,347.125";
+  const std::string fifth_back = "dorsoo0 20,230";
+  EXPECT_TRUE(has(repainted(), stock)) << "the last card lies there";
+  EXPECT_TRUE(has(repainted(), fifth_back));
+  s_.holds_copy = true;
+  EXPECT_FALSE(has(repainted(), fifth_back)) << "the pile's top is weighed, not held";
+  s_.stock_empty = true;
+  EXPECT_FALSE(has(repainted(), stock)) << "the last card was drawn";
+  s_.phase = Phase::felt;
+  EXPECT_TRUE(repainted().empty()) << "after \"Continua\", before the deal";
+}
+
 class ScoreboardTest : public TableTest {
  protected:
   void play(int hands) {
