@@ -49,7 +49,7 @@ class Game {
     return then([this] { window.click(quadro); });
   }
   Game& press_deck(int times = 1) {
-    for (int i = 0; i < times; ++i) then([this] { window.press(400, 300); });
+    for (int i = 0; i < times; ++i) then([this] { window.press(410, 300); });
     return *this;
   }
   /// The player goes on until `done`, looked at whenever the game waits for a press, and acts
@@ -93,8 +93,8 @@ class Game {
     if (window.visible(quadro)) {
       window.click(quadro);
     } else if (is_drawing()) {
-      window.move(400, 300);
-      window.press(400, 300);
+      window.move(410, 300);
+      window.press(410, 300);
     } else if (is_over()) {
       window.choose(menu_continue);
     } else if (is_own_turn()) {

@@ -131,7 +131,7 @@ TEST(NamesDialog, LeftOpenItClosesWithThePictureOrTheFirstCard) {
 // Faces on the table, in any order.
 Lines faces(Game& game) {
   Lines lines = game.pictures();
-  std::erase_if(lines, [](const std::string& line) { return line.starts_with("dorso"); });
+  std::erase_if(lines, [](const std::string& line) { return line.starts_with("back"); });
   std::sort(lines.begin(), lines.end());
   return lines;
 }
@@ -172,7 +172,7 @@ TEST(NamesDialog, ConfirmedInADealOrWhileTheOpenHandsAreShownWhatStoodStands) {
     const State& s = game.s();
     const bool dealing = game.is_dealing() && s.mano[1][3] != 0 && s.mano[1][4] == 0;
     const bool open = game.timer.running() && game.timer.period() == 3900 &&
-                      s.n_mano[s.di_turno] == 0 && has(game.pictures(), "cartao");
+                      s.n_mano[s.di_turno] == 0 && s.phase == Phase::open_hands;
     if (!(dealing && stood.empty()) && !(open && stood.size() == 1)) return;
     game.window.choose(personalize_players);
     const Lines before = faces(game);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "seam/surface.h"
+#include "told/card_names.h"
 
 namespace tombrello {
 
@@ -29,9 +30,9 @@ inline std::string colour_name(Colour colour) {
   return found == names.end() ? std::to_string(colour) : found->second;
 }
 
-/// One item as a line: "carta14 250,485.75 310,580", with "turned" behind a half turn;
-/// "box 250,460.75 570,580 felt" or "frame ..."; "'TU' 370,464.9 Arial 8 white", with "+1" behind
-/// the place of a text that stands one line lower.
+/// One item as a line: "A♦ 250,485.75 310,580", with "turned" behind a half turn, "A♦ lying" or
+/// "back1"; "box 250,460.75 570,580 felt" or "frame ..."; "'TU' 370,464.9 Arial 8 white", with "+1"
+/// behind the place of a text that stands one line lower.
 inline std::string seen(const Item& item) {
   const auto corners = [](const Area& a) {
     return at(a.left, a.top) + " " + at(a.right, a.bottom);
@@ -40,13 +41,18 @@ inline std::string seen(const Item& item) {
     return (box->filled ? "box " : "frame ") + corners(box->area) + " " + colour_name(box->colour);
   }
   if (const auto* picture = std::get_if<PictureItem>(&item)) {
-    static const char* const kSets[] = {"carta", "cartao", "dorsov", "dorsoo", "quadro"};
+    const auto [set, index] = picture->picture;
+    std::string name = "opening picture";
+    if (set == PictureSet::carta || set == PictureSet::cartao) name = short_name(index);
+    if (set == PictureSet::dorsov || set == PictureSet::dorsoo) {
+      name = "back" + std::to_string(index);
+    }
+    if (set == PictureSet::cartao || set == PictureSet::dorsoo) name += " lying";
     const std::string turn = picture->mirrored_x && picture->mirrored_y ? " turned"
                              : picture->mirrored_x                      ? " mirrored x"
                              : picture->mirrored_y                      ? " mirrored y"
                                                                         : "";
-    return kSets[static_cast<int>(picture->picture.set)] + std::to_string(picture->picture.index) +
-           " " + corners(picture->area) + turn;
+    return name + " " + corners(picture->area) + turn;
   }
   const auto& text = std::get<TextItem>(item);
   const std::string lower =

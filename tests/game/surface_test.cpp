@@ -25,9 +25,9 @@ TEST_F(SurfaceTest, CornersInAnyOrderAndNegativeSizesThatMirror) {
   surface_.paint(kLying, 200, 100, 0, 0);
   EXPECT_EQ(seen(surface_),
             (Lines{"box 10,20 30,40 felt", "box 12,20 32,40 felt", "frame 10,20 30,40 yellow",
-                   "cartao3 200,100 290,160", "cartao3 110,100 200,160 mirrored x",
-                   "cartao3 200,40 290,100 mirrored y", "cartao3 110,40 200,100 turned",
-                   "cartao3 200,100 200,100"}));
+                   "3♥ lying 200,100 290,160", "3♥ lying 110,100 200,160 mirrored x",
+                   "3♥ lying 200,40 290,100 mirrored y", "3♥ lying 110,40 200,100 turned",
+                   "3♥ lying 200,100 200,100"}));
 }
 
 TEST_F(SurfaceTest, ABoxTakesAwayWhatItCoversWholly) {
@@ -41,7 +41,7 @@ TEST_F(SurfaceTest, ABoxTakesAwayWhatItCoversWholly) {
   surface_.print("starts outside");
   surface_.filled_box(10, 10, 80, 100, kFelt);
   EXPECT_EQ(seen(surface_),
-            (Lines{"carta2 20,10 80,100.5", "'starts outside' 9.5,50 MS Sans Serif 7.8 black",
+            (Lines{"2♥ 20,10 80,100.5", "'starts outside' 9.5,50 MS Sans Serif 7.8 black",
                    "box 10,10 80,100 felt"}));
 }
 
@@ -56,8 +56,8 @@ TEST_F(SurfaceTest, PaintingAHundredTimesStandsOnce) {
     surface_.print("TU");
   }
   EXPECT_EQ(seen(surface_),
-            (Lines{"box 0,0 158,30 pale", "frame 0,30 158,130 yellow", "carta2 300,300 360,390",
-                   "carta1 320,300 380,390", "'TU' 370,464 MS Sans Serif 7.8 green"}));
+            (Lines{"box 0,0 158,30 pale", "frame 0,30 158,130 yellow", "2♥ 300,300 360,390",
+                   "A♥ 320,300 380,390", "'TU' 370,464 MS Sans Serif 7.8 green"}));
 }
 
 TEST_F(SurfaceTest, PrintsInheritTheTextStateAndLinesFollow) {

@@ -92,6 +92,14 @@ class OffscreenWindow : public DesktopWindow, public ScriptedPlayer {
     return 0;
   }
 
+  std::string told_now;
+  std::string told_then;
+  std::optional<Area> mark;
+
+  void set_chronicle(const std::string& now, const std::string& then) override {
+    DesktopWindow::set_chronicle(told_now = now, told_then = then);
+  }
+  void set_mark(const std::optional<Area>& area) override { DesktopWindow::set_mark(mark = area); }
   void add_entry(EntryId entry, EntryId parent, const std::string& caption) override {
     DesktopWindow::add_entry(entry, parent, caption);
     actions_[entry] = frame().menuBar()->findChildren<QAction*>(Qt::FindDirectChildrenOnly).last();

@@ -1,0 +1,117 @@
+// One match, played by a script, as it is seen: tests/game/golden.txt tells after each step what
+// has come and what has gone. CONTRIBUTING.md tells how to renew it.
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "tests/game/game.h"
+
+namespace tombrello {
+namespace {
+
+/// All that is seen, from the bottom up.
+Lines view(Game& game) {
+  Lines lines = seen(game.surface());
+  lines.insert(lines.begin(), "the table is " + colour_name(game.surface().background()));
+  for (ControlId control = quadro; control <= Shape1_1; ++control) {
+    if (!game.window.visible(control)) continue;
+    const bool field = control > TxtPlayer_0 && control <= TxtPlayer_4;
+    const Area& area = game.window.area(control);
+    lines.push_back((field ? "field '" + game.window.text(control) + "' "
+                           : "control " + std::to_string(control) + " ") +
+                    at(area.left, area.top) + " " + at(area.right, area.bottom));
+  }
+  if (const auto& mark = game.window.mark) {
+    lines.push_back("mark " + at(mark->left, mark->top) + " " + at(mark->right, mark->bottom));
+  }
+  constexpr const char* kPointers[] = {"arrow", "up arrow", "hourglass"};
+  lines.push_back(std::string("pointer ") + kPointers[static_cast<int>(game.window.pointer())]);
+  return lines;
+}
+
+/// The first round is told in every pass, what comes later when seat 1 is on turn again.
+class Record {
+ public:
+  explicit Record(Game& game) : game_(game) {
+    game.window.on_pass = [this] {
+      const State& s = game_.s();
+      const bool new_turn = s.di_turno != turn_;
+      turns_ += new_turn && s.phase == Phase::hand;
+      turn_ = s.di_turno;
+      if (turns_ > 5 && s.phase == Phase::hand && !(new_turn && turn_ == 1)) return;
+      // A deal is looked at between its packets.
+      if (s.phase != Phase::deal || game_.timer.period() > kBetweenCards) step();
+    };
+  }
+  std::string text;
+
+ private:
+  void step() {
+    const Lines now = view(game_);
+    const std::string changes = only_in(before_, now, "  - ") + only_in(now, before_, "  + ");
+    if (changes.empty()) return;
+    text += "\n" + game_.window.told_now + "\n" + changes;
+    if (then_ != game_.window.told_then) text += "  (" + game_.window.told_then + ")\n";
+    before_ = now;
+    then_ = game_.window.told_then;
+  }
+  static std::string only_in(const Lines& these, Lines others, const char* sign) {
+    std::string text;
+    for (const auto& line : these) {
+      const auto same = std::find(others.begin(), others.end(), line);
+      if (same == others.end()) text += sign + line + "\n";
+      if (same != others.end()) others.erase(same);
+    }
+    return text;
+  }
+
+  static constexpr int kBetweenCards = 389;  // milliseconds
+
+  Game& game_;
+  Lines before_;
+  int turn_ = 0;
+  int turns_ = 0;
+  std::string then_;
+};
+
+/// From the opening, with the names given, to the deal of the second hand.
+std::string played(std::uint64_t seed) {
+  Game game(seed);
+  Record record(game);
+  game.choose(personalize_players).then([&] { game.window.type(TxtPlayer_0 + 1, "zoë"); });
+  game.then([&] { game.window.type(TxtPlayer_0 + 2, "leo"); });
+  game.then([&] { game.window.type(TxtPlayer_0 + 4, "io"); }).dismiss();
+  for (const EntryId panel : {istruzioni, menu_about, menu_help}) game.choose(panel);
+  game.until_own_turn().then([&] {
+    game.window.move(300, 550);
+    game.window.press(300, 550, Button::right);
+  });
+  game.until_scoreboard().choose(menu_continue).then([] {});
+  game.play();
+  return record.text;
+}
+
+/// The whole table at another size of the cards, at the end of the same hand.
+std::string at_four_fifths(std::uint64_t seed) {
+  Game game(seed, " 2 \r\nLEO\r\nADA\r\nPIA\r\nUGO\r\n 1 \r\n 0 \r\n 80 \r\n");
+  std::string text = "\nCards of four fifths of their size\n";
+  game.until_scoreboard().then([&] {
+    for (const auto& line : view(game)) text += "  " + line + "\n";
+  });
+  game.play_to_end();
+  return text;
+}
+
+TEST(Golden, OneMatchIsSeenAsItWas) {
+  const std::string file = TOMBRELLO_ROOT "/tests/game/golden.txt";
+  const std::string text = played(196) + at_four_fifths(196);
+  if (std::getenv("TOMBRELLO_RENEW") != nullptr) std::ofstream(file) << text;
+  std::ostringstream golden;
+  golden << std::ifstream(file).rdbuf();
+  EXPECT_EQ(text, golden.str());
+}
+
+}  // namespace
+}  // namespace tombrello
