@@ -12,161 +12,117 @@ bool is_dealer_found(const Fortune& fortune) {
   return fortune.dealer != 0;
 }
 
-TEST_F(Shell, PanelsShowOneAtATimeAndGoAtAPress) {
-  start_quick();
+TEST_F(Shell, NamesAreTypedPastedShownAndKept) {
+  start_quick({.clock = clock_of_short_hand(), .turns = 5});
   dismiss_opening();
-  const Shot table = settled_shot();
-  auto shows = [&](int rules, int help, int info) {
-    wait_until("the panels", [=](const View& v) {
-      return v.number("rules") == rules && v.number("help") == help && v.number("info") == info;
-    });
-  };
-  key("alt+r");
-  shows(1, 0, 0);
-  EXPECT_NE(settled_shot(), table);
-  key("alt+h");
-  shows(0, 1, 0);
-  press_screen("Info");
-  shows(0, 0, 1);
-  key("alt+i");
-  shows(0, 0, 0);
-  press_screen("Regole");
-  shows(1, 0, 0);
-  press(100, 100);  // on the panel
-  shows(0, 0, 0);
-  press_screen("Help");
-  shows(0, 1, 0);
-  press(600, 500, 1);  // beside it
-  shows(0, 0, 0);
-  EXPECT_EQ(view.number("index"), 1);
-  move(400, 590);
-  EXPECT_EQ(settled_shot(), table) << "what they covered is seen again";
-}
-
-TEST_F(Shell, OptionsAreChosenInTheMenus) {
-  start_quick();
-  dismiss_opening();
-  EXPECT_EQ(view.number("speed"), 1);
-  for (const auto& [caption, speed] : {std::pair{"Alta", 3}, {"Media", 2}, {"Bassa", 1}}) {
-    press_screen("Opzioni");
-    press_screen("Velocità gioco");
-    press_screen(caption);
-    wait_for("speed", speed);
-  }
-  EXPECT_EQ(file("config.zvq"), "") << "the pace lasts for the run only";
-  press_screen("Suoni");
-  press_screen("Fruscio delle carte");
-  press_screen("No");
-  wait_for("rustle", 0);
-  EXPECT_EQ(file("config.zvq").substr(0, 5), " 1 \r\n");
-  EXPECT_NE(file("config.zvq").find("EST\r\n 0 \r\n"), std::string::npos);
-  press_screen("Suoni");
-  press_screen("Fruscio delle carte");
-  press_screen("Si");
-  wait_for("rustle", 1);
-  for (const char* tune : {"MODO SEQUENZIALE", "Nessuna"}) {
-    press_screen("Musica");
-    press_screen(tune);
-    wait_for("popup", 0);
-  }
-  press_screen("Partita");
-  press_screen("Ripeti ultima mano");
-  wait_until("the answer",
-             [](const View& v) { return v.text("box") == "Nessuna mano è stata ancora giocata"; });
-  key("Return");
-  wait_until("no box", [](const View& v) { return v.text("box").empty(); });
-  EXPECT_EQ(view.number("marked"), 0);
-  press_screen("Partita");
-  press_screen("Continua");  // disabled
-  key("Escape");
-  key("Escape");
-  wait_for("popup", 0);
-  press(400, 300);
-  wait_for("index", 2);
-}
-
-TEST_F(Shell, NamesAreTypedShownAndKept) {
-  start_quick({.clock = find_clock(is_dealer_found)});
-  dismiss_opening();
-  const Shot before = settled_shot();
-  auto fill = [&](int field, const std::string& typed, bool pasted) {
-    press(130, 40 + static_cast<float>(field - 1) * 15);
+  const auto fill = [&](int seat, const std::string& name, const std::function<void()>& enter) {
+    press(130, 40 + static_cast<float>(seat - 1) * 15);
     key("ctrl+a");
-    pasted ? paste(typed) : type(typed);
-  };
-  auto expect_name = [&](int seat, const std::string& name) {
+    enter();
     wait_until(name, [&](const View& v) { return v.text("name" + std::to_string(seat)) == name; });
+  };
+  const auto prints = [&](const std::string& text) {
+    return comes_true([&](const View& v) { return v.text("texts").find(text) != text.npos; },
+                      Milliseconds(5000));
   };
   key("alt+p");
   key("n");
   wait_for("dialog", 1);
-  fill(1, "otto,le\"ttere", false);
-  expect_name(1, "OTTOLET");
-  fill(2, "perché", true);
-  expect_name(2, "PERCHÉ");
-  fill(3, std::string(5000, 'a') + "\n\t" + std::string(5000, 'b'), true);
-  expect_name(3, "AAAAAAA");
-  fill(4, " x, \"y\" ", true);
+  fill(1, "OTTOLET", [&] { type("otto,le\"ttere"); });
+  fill(2, "STRAßE", [&] { paste("straße"); });
+  fill(3, "🂡 LEO", [&] { paste("🂡 leo"); });
+  fill(4, "AAAAAAA", [&] { paste(std::string(5000, 'a') + "\n\t" + std::string(5000, 'b')); });
   key("Return");
   wait_for("dialog", 0);
-  wait_until("a name without outer blanks", [](const View& v) {
-    const std::string name = v.text("name4");
-    return !name.empty() && name.front() != ' ' && name.back() != ' ' &&
-           name.find_first_of(",\"") == std::string::npos;
-  });
-  EXPECT_EQ(file("Players"), "OTTOLET\r\nPERCHÉ\r\nAAAAAAA\r\n" + view.text("name4") + "\r\n");
-  wait_for("action", 7);
-  const Shot named = settled_shot();
-  EXPECT_NE(named, before);
+  EXPECT_EQ(file("Players"), "OTTOLET\r\nSTRAßE\r\n🂡 LEO\r\nAAAAAAA\r\n");
+  EXPECT_TRUE(prints("|OTTOLET|"));
+  EXPECT_TRUE(prints("|S|T|R|A|ß|E|"));
 
-  press_screen("Partita");
-  press_screen("Nomi dei giocatori");
-  wait_for("dialog", 1);
-  fill(1, "anna", false);
-  expect_name(1, "ANNA");
+  const auto open_again = [&] {
+    wait_for("action", 7);
+    press_screen("Partita");
+    press_screen("Nomi dei giocatori");
+    wait_for("dialog", 1);
+  };
+  open_again();
+  fill(1, "ZOË B", [&] { paste(" zoë, \"b\" "); });
   press(105, 120);  // the bar
   wait_for("dialog", 0);
-  EXPECT_EQ(file("Players").substr(0, 6), "ANNA\r\n");
-  wait_for("action", 7);
-
-  press_screen("Partita");
-  press_screen("Nomi dei giocatori");
-  wait_for("dialog", 1);
+  EXPECT_EQ(file("Players").substr(0, 8), "ZOË B\r\n");
+  open_again();
+  fill(4, "IDA", [&] { type("ida"); });
   press(400, 300);  // the first card closes it
   wait_for("index", 2);
   EXPECT_EQ(view.number("dialog"), 0);
   EXPECT_EQ(view.number("names"), 0);
-  EXPECT_EQ(view.text("name1"), "ANNA");
+  turn_up(2, 4);
+  wait_for("pile", 1);
+  play_hand(false);
+  EXPECT_TRUE(prints("Game    ZOË B-🂡 LEO|STRAßE-IDA|"));
+  EXPECT_NE(file("config.zvq").find("\r\nZOË B\r\nSTRAßE\r\n🂡 LEO\r\nIDA\r\n"), std::string::npos);
 }
 
+// With raised cards on the table, and with each panel over it.
 TEST_F(Shell, ThePictureSurvivesSizesAndMinimising) {
   begin({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; })});
   draw(kStock);
   select({4, 9});
-  move(20, 595);
+  for (const char* panel : {"", "Regole", "Help", "Info"}) {
+    SCOPED_TRACE(panel);
+    if (*panel != 0) press_screen(panel);
+    move(20, 595);
+    const Shot full = settled_shot();
+    maximise_or_not();
+    wait_until("a smaller window", [&](const View& v) { return v.number("width") < full.width; });
+    resize(800, 600);
+    const Shot at_800 = settled_shot();
+    for (const auto& [width, height] : {std::pair{400, 300}, {1000, 420}, {401, 733}, {517, 389}}) {
+      resize(width, height);
+    }
+    xdo({"windowsize", window, "200", "150"});
+    wait_for("width", 400);
+    resize(800, 600);
+    EXPECT_EQ(settled_shot(), at_800) << "painted for this size, not stretched from another";
+    xdo({"windowminimize", window});
+    wait_for("minimised", 1);
+    xdo({"windowactivate", window});
+    wait_for("minimised", 0);
+    EXPECT_EQ(settled_shot(), at_800);
+    maximise_or_not();
+    wait_for("width", full.width);
+    move(20, 595);
+    EXPECT_EQ(settled_shot(), full);
+    if (*panel != 0) press_screen(panel);
+  }
+  press_slot(14, 1);
+  wait_until("the raised cards down", [](const View& v) { return v.hand().at(3) < kSelected; });
+}
+
+// A press beside takes the keyboard, and its blinking mark, from the field.
+TEST_F(Shell, TheNamesDialogFollowsTheWindow) {
+  start_quick();
+  dismiss_opening();
+  const auto open = [&] {
+    press_screen("Partita");
+    press_screen("Nomi dei giocatori");
+    wait_for("dialog", 1);
+    press(600, 560);
+    move(600, 590);
+  };
+  open();
   const Shot full = settled_shot();
   maximise_or_not();
   wait_until("a smaller window", [&](const View& v) { return v.number("width") < full.width; });
-  resize(800, 600);
+  for (const auto& [width, height] : {std::pair{401, 733}, {800, 600}}) resize(width, height);
   const Shot at_800 = settled_shot();
-  for (const auto& [width, height] : {std::pair{400, 300}, {1000, 420}, {401, 733}, {517, 389}}) {
-    resize(width, height);
-  }
-  xdo({"windowsize", window, "200", "150"});
-  wait_for("width", 400);
-  resize(800, 600);
-  EXPECT_EQ(settled_shot(), at_800) << "painted for this size, not stretched from another";
-  xdo({"windowminimize", window});
-  wait_for("minimised", 1);
-  xdo({"windowactivate", window});
-  wait_for("minimised", 0);
-  EXPECT_EQ(settled_shot(), at_800);
+  press(105, 120);  // its bar, where it stands now
+  wait_for("dialog", 0);
+  wait_for("action", 7);
+  open();
+  EXPECT_EQ(settled_shot(), at_800) << "as when it is opened at this size";
   maximise_or_not();
   wait_for("width", full.width);
-  move(20, 595);
   EXPECT_EQ(settled_shot(), full);
-  press_slot(14, 1);
-  wait_until("the raised cards down", [](const View& v) { return v.hand().at(3) < kSelected; });
 }
 
 TEST_F(Shell, TheLastHandCanBeDealtAgain) {
