@@ -85,6 +85,7 @@ const std::vector<Choice> kChoices = {
     {kBallo, {checked(nomusic_0)}, {checked(kBallo)}},
     {all_0, {checked(kBallo)}, {checked(all_0), checked(kAria)}},
     {nomusic_0, {checked(all_0), checked(kAria)}, {checked(nomusic_0)}},
+    {nomusic_0, {}, {}},
     {istruzioni, {}, {shows(TxtItaliano)}},
     {istruzioni, {shows(TxtItaliano)}, {}},
     {esci, {}, {}}};  // and the answer is no

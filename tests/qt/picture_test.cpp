@@ -1,52 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "painting/picture_cache.h"
-#include "qt/rasteriser.h"
 #include "sample_pictures.h"
 
 namespace tombrello::qt {
 namespace {
 
-constexpr QRgb kClear = qRgba(0, 0, 0, 0);
-
 using painting::PictureCache;
 using painting::PixelRect;
-
-TEST(Rasteriser, StretchesToTheSizeAndLeavesTheRestClear) {
-  Drawing drawing;
-  drawing.width = 10;
-  drawing.height = 20;
-  drawing.shapes.push_back(sample_box(5, 10, 5, 10, {255, 0, 0, 255}));
-  const QImage image = rasterise(drawing, 30, 40);
-  ASSERT_EQ(image.size(), QSize(30, 40));
-  EXPECT_EQ(image.pixel(14, 39), kClear);
-  EXPECT_EQ(image.pixel(29, 19), kClear);
-  EXPECT_EQ(image.pixel(15, 20), qRgba(255, 0, 0, 255));
-  EXPECT_EQ(image.pixel(29, 39), qRgba(255, 0, 0, 255));
-}
-
-TEST(Rasteriser, FillsNestedOutlinesByTheirRule) {
-  Shape ring = sample_box(0, 0, 30, 30, {0, 0, 255, 255});
-  const Path hole = sample_box(10, 10, 10, 10, {}).path;
-  ring.path.verbs.insert(ring.path.verbs.end(), hole.verbs.begin(), hole.verbs.end());
-  ring.path.points.insert(ring.path.points.end(), hole.points.begin(), hole.points.end());
-  ring.even_odd = true;
-  EXPECT_EQ(rasterise({30, 30, {ring}}, 30, 30).pixel(15, 15), kClear);
-  ring.even_odd = false;
-  EXPECT_EQ(rasterise({30, 30, {ring}}, 30, 30).pixel(15, 15), qRgba(0, 0, 255, 255));
-}
-
-TEST(Rasteriser, PaintsGradientsFromEndToEnd) {
-  Shape band = sample_box(0, 0, 256, 4, {});
-  band.fill.kind = Paint::Kind::linear;
-  band.fill.from = {0, 0};
-  band.fill.to = {256, 0};
-  band.fill.stops = {{0, {0, 0, 0, 255}}, {1, {255, 255, 255, 255}}};
-  const QImage image = rasterise({256, 4, {band}}, 256, 4);
-  EXPECT_LE(qRed(image.pixel(0, 2)), 2);
-  EXPECT_NEAR(qRed(image.pixel(128, 2)), 128, 2);
-  EXPECT_GE(qRed(image.pixel(255, 2)), 253);
-}
 
 TEST(PictureCache, OpaquePartIsOpaqueAndMostOfACard) {
   PictureCache cache(sample_picture);
