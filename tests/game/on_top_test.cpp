@@ -12,9 +12,8 @@
 namespace tombrello {
 namespace {
 
-// A second painter that knows the table's places by their numbers, paints into a raster, and is
-// asked what lies on top: the card painted last, where no box has erased it since. Of a strip
-// only its own box erases anything.
+// A second painter, which paints into a raster and is asked what lies on top: the card painted
+// last, where no box has erased it since. Of a strip only its own box erases anything.
 class Raster {
  public:
   static constexpr int kStep = 10;  // units between two points that are looked at
@@ -24,19 +23,15 @@ class Raster {
   static float y_of(int row) { return static_cast<float>(row * kStep) + 2.4F; }
 
   void clear() { *this = Raster(); }
-  void box(float left, float top, float right, float bottom) {
-    each(left, top, right, bottom, [](Cell& cell) { cell.card = 0; });
+  void box(const Place& place) {
+    each(place, [](Cell& cell) { cell.card = 0; });
   }
-  void card(int id, float left, float top, bool lying) {
+  void card(int id, const Place& place) {
     ++now_;
-    each(left, top, left + (lying ? 94.25F : 60), top + (lying ? 60 : 94.25F), [&](Cell& cell) {
-      cell = {id, now_, cell.strips};
-    });
+    each(place, [&](Cell& cell) { cell = {id, now_, cell.strips}; });
   }
-  void strip_card(int seat, int id, float left, float top, bool lying) {
-    each(left, top, left + (lying ? 94.25F : 60), top + (lying ? 60 : 94.25F), [&](Cell& cell) {
-      cell.strips[static_cast<std::size_t>(seat)] = {id, now_};
-    });
+  void strip_card(int seat, int id, const Place& place) {
+    each(place, [&](Cell& cell) { cell.strips[static_cast<std::size_t>(seat)] = {id, now_}; });
   }
   void begin_strip(int seat) {
     ++now_;
@@ -68,13 +63,11 @@ class Raster {
   };
 
   template <class Change>
-  void each(float left, float top, float right, float bottom, Change change) {
+  void each(const Place& place, Change change) {
     for (int row = 0; row < kDown; ++row) {
       for (int column = 0; column < kAcross; ++column) {
-        const float x = x_of(column);
-        const float y = y_of(row);
-        const bool inside = left < x && x < right && top < y && y < bottom;
-        if (inside) change(cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+        if (!place.holds(x_of(column), y_of(row))) continue;
+        change(cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
       }
     }
   }
@@ -107,7 +100,7 @@ int on_top(const Surface& surface, float x, float y) {
 class TwicePainted : public PaintedTable {
  public:
   TwicePainted(const State& state, const Geometry& geometry, Window& window)
-      : PaintedTable(state, geometry, window), s_(state) {}
+      : PaintedTable(state, geometry, window), s_(state), g_(geometry) {}
 
   void clear() override {
     PaintedTable::clear();
@@ -115,100 +108,78 @@ class TwicePainted : public PaintedTable {
   }
   void ridisegno_carte() override {
     PaintedTable::ridisegno_carte();
-    raster.box(250, 460.75F, 570, 580);
+    raster.box(g_.hand_box());
     for (int k = 1; k <= s_.n_mano[1]; ++k) {
       const int card = s_.mano[1][k];
-      const float y = card > kSelected ? 460.75F : 485.75F;
-      raster.card(face(card % kSelected), 230 + 20 * static_cast<float>(k), y, false);
+      raster.card(face(card % kSelected), g_.hand_card(k, card > kSelected));
     }
   }
   void ridisegno_dorsi(int seat) override {
     PaintedTable::ridisegno_dorsi(seat);
-    if (seat == 2) raster.box(0, 245, 114.25F, 585);
-    if (seat == 3) raster.box(250, 19, 570, 114.25F);
-    if (seat == 4) raster.box(685.75F, 245, 780, 585);
-    for (int k = 1; k <= s_.n_mano[seat]; ++k) back(seat, k, s_.mazzo[k]);
+    if (seat == 1) return;
+    raster.box(g_.backs_box(seat));
+    for (int k = 1; k <= s_.n_mano[seat]; ++k) back(s_.mazzo[k], g_.back(seat, k));
   }
   void calo_carte(int seat) override {
     PaintedTable::calo_carte(seat);
-    const std::array<std::array<float, 4>, kSeats + 1> boxes = {{{},
-                                                                 {290, 358.5F, 610, 452.75F},
-                                                                 {144.25F, 150, 238.5F, 470},
-                                                                 {290, 147.25F, 610, 241.5F},
-                                                                 {561.5F, 150, 655.75F, 470}}};
-    const auto& [left, top, right, bottom] = boxes[static_cast<std::size_t>(seat)];
-    raster.box(left, top, right, bottom);
+    raster.box(g_.strip(seat));
     raster.begin_strip(seat);
     for (int k = 1; k <= s_.n_calate[seat]; ++k) {
       if (s_.calate[seat][k] == kSentinel) continue;
-      const float along = 12 * static_cast<float>(k - 1);
-      const bool lying = seat == 2 || seat == 4;
-      raster.strip_card(seat, face(s_.calate[seat][k]), lying ? left : left + along,
-                        lying ? top - 60 + along : top, lying);
+      raster.strip_card(seat, face(s_.calate[seat][k]), g_.strip_card(seat, k));
     }
   }
   void scopro_carte() override {
     PaintedTable::scopro_carte();
-    for (int k = 1; k <= s_.n_mano[2]; ++k) raster.card(face(s_.mano[2][k]), 20, side(k), true);
-    for (int k = 1; k <= s_.n_mano[3]; ++k) {
-      raster.card(face(s_.mano[3][k]), 356.7F + 20 * static_cast<float>(k), 20, false);
-    }
-    for (int k = 1; k <= s_.n_mano[4]; ++k) {
-      raster.card(face(s_.mano[4][k]), 685.75F, side(k), true);
+    for (int seat = 2; seat <= kSeats; ++seat) {
+      for (int k = 1; k <= s_.n_mano[seat]; ++k) {
+        raster.card(face(s_.mano[seat][k]), g_.open_card(seat, k));
+      }
     }
   }
   void pile_shows(int card) override {
     PaintedTable::pile_shows(card);
-    raster.card(face(card), 340, 252.875F, false);
+    raster.card(face(card), g_.pile());
   }
   void pile_empty() override {
     PaintedTable::pile_empty();
-    raster.box(340, 252.875F, 400, 347.125F);
+    raster.box(g_.pile());
   }
-  void stock_shows(int back) override {
-    PaintedTable::stock_shows(back);
-    raster.card(kBack + back, 400, 252.875F, false);
+  void stock_shows(int pack) override {
+    PaintedTable::stock_shows(pack);
+    raster.card(kBack + pack, g_.stock());
   }
   void stock_empty() override {
     PaintedTable::stock_empty();
-    raster.box(400, 252.875F, 460, 347.125F);
+    raster.box(g_.stock());
   }
   void card_dealt(int seat, int k, int card) override {
     PaintedTable::card_dealt(seat, k, card);
-    if (seat != 1) return back(seat, k, card);
-    raster.card(face(card), 230 + 20 * static_cast<float>(k), 485.75F, false);
+    if (seat == 1) return raster.card(face(card), g_.hand_card(k, false));
+    back(card, g_.back(seat, k));
   }
   void card_landed(int seat, int card) override {
     PaintedTable::card_landed(seat, card);
-    const int id = kBack + back_number(card);
-    if (seat == 2) raster.card(id, 20, 505, true);
-    if (seat == 3) raster.card(id, 636.7F, 20, false);
-    if (seat == 4) raster.card(id, 685.75F, 505, true);
+    back(card, g_.landing(seat));
   }
   void reshuffle_begins() override {
     PaintedTable::reshuffle_begins();  // empties the pile by itself
-    raster.card(kBack, 520, 252.875F, false);
+    raster.card(kBack, g_.shuffled_pile());
   }
   void reshuffle_ends() override {
     PaintedTable::reshuffle_ends();
-    raster.box(520, 252.875F, 580, 347.125F);
-    raster.box(350, 390, 500, 400);
+    raster.box(g_.shuffled_pile());
+    raster.box(g_.reshuffle_message());
   }
 
   Raster raster;
 
  private:
   static int face(int card) { return first_pack_twin(card); }
-  static float side(int k) { return 225 + 20 * static_cast<float>(k); }
-  void back(int seat, int k, int card) {
-    const int id = kBack + back_number(card);
-    const float along = 20 * static_cast<float>(k - 1);
-    if (seat == 2) raster.card(id, 20, 150 + along, true);
-    if (seat == 3) raster.card(id, 250 + along, 20, false);
-    if (seat == 4) raster.card(id, 685.75F, 150 + along, true);
-  }
+  void back(int card, const Place& place) { raster.card(kBack + back_number(card), place); }
 
   const State& s_;
+  const Geometry& g_;
 };
 
 class ScriptedWait : public Wait {
