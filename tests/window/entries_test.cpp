@@ -89,7 +89,7 @@ class Entries : public PlayingSession, public ::testing::WithParamInterface<bool
 // In the person's turn, with two cards selected; tests/game has all other moments.
 TEST_P(Entries, DoWhatTheySayAndNothingElse) {
   put_tunes_there();
-  start_quick({.clock = find_clock([](const Fortune& f) { return f.dealer == 4; })});
+  start_quick({.clock = kSeat4Deals});
   dismiss_opening();
   choose({{"Partita", "Ripeti ultima mano"},
           {"alt+p", "Return"},

@@ -30,12 +30,12 @@ class LeavingFrom : public PlayingSession, public ::testing::WithParamInterface<
  public:
   void opening() { start_quick(); }
   void tie_box() {
-    draw_for_dealer(4, {.clock = find_clock([](const Fortune& f) { return f.dealer == 0; })});
+    draw_for_dealer(4, {.clock = kTie});
     wait_for_any("box");
   }
-  void after_the_draw() { draw_for_dealer(4, {.clock = dealer_is(1), .deal = 10000}); }
+  void after_the_draw() { draw_for_dealer(4, {.clock = kSeat1Deals, .deal = 10000}); }
   void deal() {
-    draw_for_dealer(4, {.clock = dealer_is(1), .deal = 500});
+    draw_for_dealer(4, {.clock = kSeat1Deals, .deal = 500});
     wait_until("the first cards", [](const View& v) {
       const auto cards = v.numbers("hand2");
       return cards.size() > 2 && cards[1] != 0;
@@ -43,7 +43,7 @@ class LeavingFrom : public PlayingSession, public ::testing::WithParamInterface<
   }
   void before_the_draw() { draw_for_dealer(0); }
   void among_the_draw() { draw_for_dealer(2); }
-  void own_turn() { begin({.clock = dealer_is(4), .turns = 1000}); }
+  void own_turn() { begin({.clock = kSeat4Deals, .turns = 1000}); }
   void card_drawn() {
     own_turn();
     draw(kStock);
@@ -57,23 +57,23 @@ class LeavingFrom : public PlayingSession, public ::testing::WithParamInterface<
     for (const char* each : {"Tab", "Right", "space"}) key(each);
   }
   void computer_turn() {
-    begin({.clock = dealer_is(1), .turns = 10000});
+    begin({.clock = kSeat1Deals, .turns = 10000});
     wait_for("pointer", static_cast<int>(PointerShape::hourglass));
   }
   void reshuffle() {
-    begin({.clock = clock_of_reshuffle(), .turns = 5, .rare = 2000});
+    begin({.clock = kReshuffle, .turns = 5, .rare = 2000});
     play_until([](const View& v) { return v.text("texts").find("Rimescolo") != v.text("").npos; });
   }
   void open_hands() {
-    begin({.clock = clock_of_short_hand(), .turns = 5, .rare = 2000});
+    begin({.clock = kShortHand, .turns = 5, .rare = 2000});
     play_until([](const View& v) { return v.text("chronicle").starts_with("Mano finita"); });
   }
   void scoreboard() {
-    begin({.clock = clock_of_short_hand(), .turns = 5});
+    begin({.clock = kShortHand, .turns = 5});
     play_hand(false);
   }
   void match_over() {
-    start_quick({.clock = clock_of_short_match(), .turns = 2});
+    start_quick({.clock = kShortMatch, .turns = 2});
     const auto over = [](const View& v) {
       return v.text("chronicle").starts_with("Avete") || v.text("chronicle").starts_with("La part");
     };
@@ -104,9 +104,6 @@ class LeavingFrom : public PlayingSession, public ::testing::WithParamInterface<
   void choose(const std::vector<const char*>& captions) {
     draw_for_dealer(0);
     for (const char* caption : captions) press_screen(caption);
-  }
-  static unsigned long dealer_is(int dealer) {
-    return find_clock([=](const Fortune& f) { return f.dealer == dealer; });
   }
   void wait_for_any(const char* key) {
     wait_until(key, [=](const View& v) { return !v.text(key).empty() && v.text(key) != "0"; });

@@ -33,9 +33,8 @@ TEST_F(Memory, HandsLeaveNothingBehind) {
   int hands = 0;
   int runs = 0;
   while (hands < wanted) {
-    int found = 0;
-    begin({.clock = find_clock([&](const Fortune& f) { return f.dealer != 0 && found++ == runs; }),
-           .turns = 2});
+    constexpr unsigned long kWithoutTie[] = {2, 3, 4, 5, 7, 8, 9, 10, 11, 12};
+    begin({.clock = kWithoutTie[runs % 10], .turns = 2});
     ++runs;
     Holds before;
     for (int hand = 1; hands < wanted; ++hand, ++hands) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "cards/state.h"
@@ -8,32 +7,16 @@
 
 namespace tombrello {
 
-/// What a clock brings: the deck of the draw for dealer and that of the first hand.
-struct Fortune {
-  std::vector<int> draw;  ///< slots 1.. at 1..
-  std::vector<int> deck;
-  int dealer = 0;  ///< 0 for a tie in the first pass
-  /// Seat 1's thirteen cards, in the order of the deal.
-  std::vector<int> hand() const;
-};
-
-/// The first clock from 1 on whose fortune pleases.
-unsigned long find_clock(const std::function<bool(const Fortune&)>& pleases);
-
-/// A clock whose first hand is over soonest if seat 1 draws from the stock and throws the card
-/// away again, tried headless.
-unsigned long clock_of_short_hand();
-
-/// A clock whose first hand, played so, reshuffles soonest.
-unsigned long clock_of_reshuffle();
-
-/// As for the short hand, for a whole match.
-unsigned long clock_of_short_match();
-
-/// Slots of cards of a hand that make a meld: a run, else cards of a rank. None if there is none.
-std::vector<int> find_meld(const std::vector<int>& hand);
-/// Slots of four or more cards in a run that doesn't wrap around, lowest first; or none.
-std::vector<int> find_long_run(const std::vector<int>& hand);
+/// Clock readings of which is known what they bring.
+inline constexpr unsigned long kTie = 1;          ///< in the draw for dealer
+inline constexpr unsigned long kSeat1Deals = 3;   ///< so that seat 2 opens
+inline constexpr unsigned long kSeat4Deals = 12;  ///< so that seat 1 opens: nothing moves before
+inline constexpr unsigned long kRunInHand = 135;  ///< seat 1 opens, with 2♠ 3♠ 4♠ 5♠
+// The first hand ends soon, or it reshuffles, or the match ends soon, where seat 1 throws away what
+// it draws from the stock.
+inline constexpr unsigned long kShortHand = 230;
+inline constexpr unsigned long kReshuffle = 97;
+inline constexpr unsigned long kShortMatch = 2862;
 
 /// Plays seat 1 by presses.
 class PlayingSession : public DesktopSession {

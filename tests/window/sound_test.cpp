@@ -3,7 +3,6 @@
 
 #include "player.h"
 #include "tests/sound/listening.h"
-#include "tools/simulation/simulation.h"
 
 namespace tombrello {
 namespace {
@@ -35,12 +34,6 @@ class Sounding : public PlayingSession {
     }
   }
 
-  void rustle(const char* choice) {
-    press_screen("Suoni");
-    press_screen("Fruscio delle carte");
-    press_screen(choice);
-  }
-
   /// Where sounds have begun since the device was opened.
   std::vector<double> begun(double silence = 0.05) { return onsets(disk.heard(), silence); }
   /// Waits until what sounds now has that pitch, of `kHigh` and `kLow`.
@@ -59,52 +52,12 @@ class Sounding : public PlayingSession {
 };
 
 TEST_F(Sounding, EveryCardDrawnAndDealtRustles) {
-  start_sounding(
-      {.clock = find_clock([](const Fortune& f) { return f.dealer == 4; }), .deal = 500});
+  start_sounding({.clock = kSeat4Deals, .deal = 500});
   dismiss_opening();
   turn_up_slowly();
   wait_for("pile", 1);
   disk.pass(0.5);
   EXPECT_EQ(begun().size(), 4U + 52U);
-}
-
-TEST_F(Sounding, WithoutRustleOnlyALayOffIsHeard) {
-  unsigned long clock = 0;
-  find_clock([&](const Fortune& f) {
-    ++clock;
-    if (f.dealer != 1) return false;
-    Simulation three_seats(ScriptKind::simple, clock);
-    three_seats.play_hand(3, false);
-    return three_seats.beeps() == 1;
-  });
-  start_sounding({.clock = clock});
-  rustle("No");
-  wait_for("rustle", 0);
-  dismiss_opening();
-  turn_up_slowly();
-  wait_for("pile", 1);
-  wait_for_turn();
-  disk.pass(0.5);
-  EXPECT_EQ(begun(0.2).size(), 1U);
-}
-
-TEST_F(Sounding, ATieHasASoundOfItsOwn) {
-  start_sounding({.clock = find_clock([](const Fortune& f) { return f.dealer == 0; })});
-  dismiss_opening();
-  turn_up_slowly();
-  wait_until("the box", [](const View& v) { return v.text("box") == "Ripeti, prego"; });
-  disk.pass(1.5);
-  const auto samples = disk.heard();
-  const auto sounds = onsets(samples, 0.2);
-  ASSERT_EQ(sounds.size(), 4U) << "the fourth rustle and the signal are one";
-  EXPECT_GT(strength(samples, sounds[3] + 0.35, 880), 0.01) << "its second note is missing";
-  key("Return");
-  wait_until("no box", [](const View& v) { return v.text("box").empty(); });
-  press(400, 300);
-  disk.pass(0.5);
-  const double last = onsets(disk.heard(), 0.2).back();
-  EXPECT_GT(last, sounds[3]) << "the next card rustles";
-  EXPECT_LT(strength(disk.heard(), last, 880), 0.003);
 }
 
 TEST_F(Sounding, TunesFollowEachOtherUntilMusicIsStopped) {

@@ -33,30 +33,6 @@ class SimpleScript : public Script {
   }
 };
 
-/// Slots of cards that make a meld: a run of three or more, or three or four of a rank.
-std::vector<int> find_meld(const State& s) {
-  std::array<int, kPack + 1> slot{};  // by first-pack code
-  for (int k = 1; k <= s.n_mano[1]; ++k) slot[first_pack_twin(s.mano[1][k])] = k;
-  for (int suit = 0; suit < kSuits; ++suit) {
-    std::vector<int> run;
-    for (int step = 0; step <= kRanks; ++step) {  // a run may pass from the King to the Ace
-      const int code = suit * kRanks + step % kRanks + 1;
-      const bool held = slot[code] != 0 && step < kRanks + (run.size() < kRanks ? 1 : 0);
-      if (held) run.push_back(slot[code]);
-      if ((!held || step == kRanks) && run.size() >= 3) return run;
-      if (!held) run.clear();
-    }
-  }
-  for (int rank = 1; rank <= kRanks; ++rank) {
-    std::vector<int> same;
-    for (int suit = 0; suit < kSuits; ++suit) {
-      if (slot[suit * kRanks + rank] != 0) same.push_back(slot[suit * kRanks + rank]);
-    }
-    if (same.size() >= 3) return same;
-  }
-  return {};
-}
-
 class MelderScript : public Script {
  public:
   explicit MelderScript(std::uint64_t seed) : dice_(seed) {}
@@ -81,7 +57,7 @@ class MelderScript : public Script {
   };
 
   void make_plan(const State& s, const Geometry& g) {
-    const auto meld = find_meld(s);
+    const auto meld = find_meld({s.mano[1].begin() + 1, s.mano[1].begin() + 1 + s.n_mano[1]});
     const Azione side = dice_.below(4) == 0 ? kLayPartnerSide : kLayOwnSide;
     if (!meld.empty() && additions_left_-- > 0) {
       for (const int k : meld) plan_.push_back({kSelect, g.x_of_slot(k)});
@@ -121,6 +97,31 @@ class WildScript : public Script {
 };
 
 }  // namespace
+
+std::vector<int> find_meld(const std::vector<int>& hand) {
+  std::array<int, kPack + 1> slot{};  // by first-pack code
+  for (std::size_t k = 0; k < hand.size(); ++k) {
+    slot[first_pack_twin(hand[k])] = static_cast<int>(k) + 1;
+  }
+  for (int suit = 0; suit < kSuits; ++suit) {
+    std::vector<int> run;
+    for (int step = 0; step <= kRanks; ++step) {  // a run may pass from the King to the Ace
+      const int code = suit * kRanks + step % kRanks + 1;
+      const bool held = slot[code] != 0 && step < kRanks + (run.size() < kRanks ? 1 : 0);
+      if (held) run.push_back(slot[code]);
+      if ((!held || step == kRanks) && run.size() >= 3) return run;
+      if (!held) run.clear();
+    }
+  }
+  for (int rank = 1; rank <= kRanks; ++rank) {
+    std::vector<int> same;
+    for (int suit = 0; suit < kSuits; ++suit) {
+      if (slot[suit * kRanks + rank] != 0) same.push_back(slot[suit * kRanks + rank]);
+    }
+    if (same.size() >= 3) return same;
+  }
+  return {};
+}
 
 std::unique_ptr<Script> make_script(ScriptKind kind, std::uint64_t seed) {
   switch (kind) {

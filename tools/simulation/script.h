@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <random>
+#include <vector>
 
 #include "cards/geometry.h"
 #include "cards/state.h"
@@ -14,6 +15,10 @@ class Script {
   virtual ~Script() = default;
   virtual void act(State& state, const Geometry& geometry) = 0;
 };
+
+/// Slots of cards of a hand that make a meld: a run of three or more, or three or four of a rank;
+/// none if there is none.
+std::vector<int> find_meld(const std::vector<int>& hand);
 
 enum class ScriptKind {
   simple,  ///< draws from the stock, lays nothing, discards what it drew
