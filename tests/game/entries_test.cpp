@@ -31,20 +31,18 @@ std::string checked(EntryId entry) {
   return "checked " + std::to_string(entry);
 }
 
-std::string shows(ControlId control) {
-  return "shows " + std::to_string(control);
+std::string shows(ControlId panel) {
+  return "control " + std::to_string(panel) +
+         (panel == Text4 ? " 0,0 150.8,80.1" : " 0,0 285,197.7");
 }
 
 /// All that stands in the window and in the game, a line each, sorted.
 Lines everything(Game& game) {
-  Lines lines = seen(game.surface());
+  Lines lines = view(game);
   for (EntryId entry = 1; entry <= canzoni_0 + 2; ++entry) {
     if (entry == velocita_0 || entry == canzoni_0) continue;  // nothing stands there
     if (game.window.checked(entry)) lines.push_back(checked(entry));
     if (game.window.enabled(entry)) lines.push_back("enabled " + std::to_string(entry));
-  }
-  for (ControlId control = 1; control <= Shape1_1; ++control) {
-    if (game.window.visible(control)) lines.push_back(shows(control));
   }
   const State& s = game.s();
   const auto add = [&](const char* name, const auto& numbers) {

@@ -11,26 +11,6 @@
 namespace tombrello {
 namespace {
 
-/// All that is seen, from the bottom up.
-Lines view(Game& game) {
-  Lines lines = seen(game.surface());
-  lines.insert(lines.begin(), "the table is " + colour_name(game.surface().background()));
-  for (ControlId control = quadro; control <= Shape1_1; ++control) {
-    if (!game.window.visible(control)) continue;
-    const bool field = control > TxtPlayer_0 && control <= TxtPlayer_4;
-    const Area& area = game.window.area(control);
-    lines.push_back((field ? "field '" + game.window.text(control) + "' "
-                           : "control " + std::to_string(control) + " ") +
-                    at(area.left, area.top) + " " + at(area.right, area.bottom));
-  }
-  if (const auto& mark = game.window.mark) {
-    lines.push_back("mark " + at(mark->left, mark->top) + " " + at(mark->right, mark->bottom));
-  }
-  constexpr const char* kPointers[] = {"arrow", "up arrow", "hourglass"};
-  lines.push_back(std::string("pointer ") + kPointers[static_cast<int>(game.window.pointer())]);
-  return lines;
-}
-
 /// The first round is told in every pass, what comes later when seat 1 is on turn again.
 class Record {
  public:

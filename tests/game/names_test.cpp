@@ -43,24 +43,36 @@ TEST(NamesDialog, ItsFieldsHoldCapitalsThatTheFileCanKeep) {
   game.play();
 }
 
-TEST(NamesDialog, ConfirmedOnTheOpeningPicture) {
-  for (const bool by_enter : {false, true}) {
-    Game game;
-    game.choose(personalize_players);
-    type(game, 1, "leo");
-    game.then([&, by_enter] {
-      confirm(game, by_enter);
-      EXPECT_EQ(game.archive.files.at("Players"), "LEO\r\nOVEST\r\nNORD\r\nEST\r\n");
-      EXPECT_EQ(game.archive.files.size(), 1U) << "the settings file waits for the next write";
-      expect_closed(game);
-      EXPECT_TRUE(game.surface().items().empty());
-    });
-    game.then([&, by_enter] { EXPECT_EQ(game.window.visible(quadro), by_enter); });
-    if (by_enter) game.dismiss();
-    game.then([&] { EXPECT_TRUE(has(game.texts(), "'LEO' 370,464.9 Arial 8 green")); });
-    game.play();
-    EXPECT_EQ(game.archive.writes, 1);
-    EXPECT_TRUE(game.window.script.empty());
+enum class End { enter, bar, going_on };
+
+TEST(NamesDialog, HoweverItEndsTheNamesStand) {
+  for (const bool on_picture : {true, false}) {
+    for (const End end : {End::enter, End::bar, End::going_on}) {
+      SCOPED_TRACE(testing::Message() << on_picture << static_cast<int>(end));
+      Game game;
+      if (!on_picture) game.dismiss();
+      game.choose(personalize_players);
+      type(game, 2, "io");
+      if (end != End::going_on) game.then([&, end] { confirm(game, end == End::enter); });
+      if (end == End::going_on && !on_picture) game.press_deck();
+      if (end == End::going_on && on_picture) game.dismiss();
+      game.then([&] {
+        expect_closed(game);
+        EXPECT_EQ(game.archive.files.at("Players"), "TU\r\nIO\r\nNORD\r\nEST\r\n");
+        EXPECT_EQ(game.archive.files.size(), 1U) << "the settings file waits for the next write";
+      });
+      if (on_picture && end == End::enter) game.dismiss();  // which the others did as well
+      const bool first_card = end == End::going_on && !on_picture;
+      game.then([&, first_card] {
+        EXPECT_EQ(game.window.enabled(personalize_players), !first_card);
+        EXPECT_EQ(game.pictures().size(), first_card ? 2U : 1U);
+        EXPECT_TRUE(has(game.texts(), kPrompt));
+        EXPECT_TRUE(has(game.texts(), "'O' 124.25,286"));
+        EXPECT_FALSE(has(game.texts(), " 124.25,304")) << "nothing of the old, longer one";
+      });
+      game.play_to_end();
+      EXPECT_EQ(game.archive.writes, 1);
+    }
   }
 }
 
@@ -87,27 +99,6 @@ TEST(NamesDialog, ConfirmedDuringTheDrawItLaysTheScreenOutAgain) {
   game.play_to_end();
   const std::string& settings = game.archive.files.at("config.zvq");
   EXPECT_NE(settings.find("TU\r\nUGO\r\nNORD"), std::string::npos) << "with the deal";
-}
-
-TEST(NamesDialog, LeftOpenItClosesWithThePictureOrTheFirstCard) {
-  for (const bool on_picture : {true, false}) {
-    Game game;
-    if (!on_picture) game.dismiss();
-    game.choose(personalize_players);
-    type(game, 2, "io");
-    if (on_picture) game.dismiss();
-    if (!on_picture) game.press_deck();
-    game.then([&] {
-      expect_closed(game);
-      EXPECT_EQ(game.archive.files.at("Players"), "TU\r\nIO\r\nNORD\r\nEST\r\n");
-      EXPECT_EQ(game.window.enabled(personalize_players), on_picture);
-      EXPECT_EQ(game.pictures().size(), on_picture ? 1U : 2U) << "the first card was drawn";
-      EXPECT_TRUE(has(game.texts(), kPrompt));
-      EXPECT_TRUE(has(game.texts(), "'O' 124.25,286"));
-      EXPECT_FALSE(has(game.texts(), " 124.25,304")) << "and nothing of the old, longer one";
-    });
-    game.play_to_end();
-  }
 }
 
 // Faces on the table, in any order.

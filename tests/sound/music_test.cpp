@@ -16,7 +16,7 @@ using Checks = std::vector<EntryId>;
 
 constexpr Music::Entries kEntries{.menu = 10, .nomusic = 11, .all = 12, .canzoni_0 = 20};
 
-struct MusicTest : testing::Test {
+struct Room {
   SilentMedia device;
   HeadlessTimer timer;
   HeadlessWindow window{timer};
@@ -52,21 +52,21 @@ struct MusicTest : testing::Test {
   }
 };
 
-TEST_F(MusicTest, AnAmpersandInANameShowsAndIsPartOfTheFile) {
-  load({"Aria.mid", "Ballo & canto.mid"});
-  EXPECT_EQ(tunes(), "Aria;Ballo && canto;");
-  music.canzoni_Click(2);
-  EXPECT_EQ(device.take()[1], "file music/Ballo & canto.mid");
-}
+struct MusicTest : testing::Test, Room {};
 
-TEST_F(MusicTest, TheScanEndsAtTheFirstFileThatIsNoTune) {
-  load({"Aria.mid", "Leggimi.txt", "Marcia.mid"});
-  EXPECT_EQ(tunes(), "Aria;");
-}
-
-TEST_F(MusicTest, AnUppercaseExtensionIsNoTuneAndAHiddenFileIsNoFile) {
-  load({".directory", ".mid", "Aria.mid.mid", "Ballo.midi", "CANTO.MID", "Danza.mid"});
-  EXPECT_EQ(tunes(), "Aria;Ballo;");
+TEST(MusicMenu, ListsTunesUpToTheFirstFileThatIsNone) {
+  const std::pair<std::vector<std::string>, const char*> kFolders[] = {
+      {{"Aria.mid", "Ballo & canto.mid"}, "Aria;Ballo && canto;"},
+      {{"Aria.mid", "Leggimi.txt", "Marcia.mid"}, "Aria;"},
+      {{".directory", ".mid", "Aria.mid.mid", "Ballo.midi", "CANTO.MID", "Danza.mid"},
+       "Aria;Ballo;"}};
+  for (const auto& [files, captions] : kFolders) {
+    Room room;
+    room.load(files);
+    EXPECT_EQ(room.tunes(), captions);
+    room.music.canzoni_Click(2);
+    EXPECT_TRUE(files.size() != 2 || room.device.log[1] == "file music/Ballo & canto.mid");
+  }
 }
 
 TEST_F(MusicTest, TheMenuHoldsAHundredTunes) {
@@ -79,25 +79,20 @@ TEST_F(MusicTest, TheMenuHoldsAHundredTunes) {
   EXPECT_EQ(brano, 50);
 }
 
-TEST_F(MusicTest, AtStartZeroChecksNone) {
-  load({"Aria.mid"}, 0);
-  EXPECT_EQ(checks(), Checks{11});
-  EXPECT_EQ(device.take(), Log{});
-}
-
-TEST_F(MusicTest, AtStartTheMarkOfAllTunesPlaysTheFirst) {
-  load({"Aria.mid", "Ballo.mid"}, 101);
-  EXPECT_EQ(checks(), (Checks{12, 21}));
-  EXPECT_EQ(brano, 1);
-  EXPECT_EQ(device.take(), plays("Aria"));
-  EXPECT_EQ(written, std::vector<int>{});
-}
-
-TEST_F(MusicTest, AtStartARunningNumberChecksAndPlaysNothing) {
-  load({"Aria.mid", "Ballo.mid"}, 2);
-  EXPECT_EQ(checks(), Checks{});
-  EXPECT_EQ(brano, 2);
-  EXPECT_EQ(device.take(), Log{});
+TEST(MusicAtStart, FollowsTheOption) {
+  const struct {
+    std::uint8_t option, brano;
+    Checks checks;
+    bool plays;
+  } kRows[] = {{0, 0, {11}, false}, {101, 1, {12, 21}, true}, {2, 2, {}, false}};
+  for (const auto& row : kRows) {
+    Room room;
+    room.load({"Aria.mid", "Ballo.mid"}, row.option);
+    EXPECT_EQ(room.checks(), row.checks);
+    EXPECT_EQ(room.brano, row.brano);
+    EXPECT_EQ(room.device.take(), row.plays ? room.plays("Aria") : Log());
+    EXPECT_EQ(room.written, std::vector<int>{});
+  }
 }
 
 TEST_F(MusicTest, ASingleTunePlaysOnceAndIsNotWritten) {
@@ -122,15 +117,6 @@ TEST_F(MusicTest, AllTunesFollowEachOtherAndBeginAgain) {
     EXPECT_EQ(device.take(), plays(tune));
   }
   EXPECT_EQ(written, std::vector<int>{101});
-}
-
-TEST_F(MusicTest, AnOnlyTuneFollowsItself) {
-  load({"Aria.mid"}, 101);
-  device.take();
-  music.media_done(1);
-  EXPECT_EQ(brano, 1);
-  EXPECT_EQ(checks(), (Checks{12, 21}));
-  EXPECT_EQ(device.take(), plays("Aria"));
 }
 
 TEST_F(MusicTest, ATuneThatCantBePlayedGivesWayUntilNoneCan) {
