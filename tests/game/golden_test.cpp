@@ -75,7 +75,7 @@ std::string played(std::uint64_t seed) {
 
 /// The whole table at another size of the cards, at the end of the same hand.
 std::string at_four_fifths(std::uint64_t seed) {
-  Game game(seed, " 2 \r\nLEO\r\nADA\r\nPIA\r\nUGO\r\n 1 \r\n 0 \r\n 80 \r\n");
+  Game game(seed, options(80));
   std::string text = "\nCards of four fifths of their size\n";
   game.until_scoreboard().then([&] {
     for (const auto& line : view(game)) text += "  " + line + "\n";

@@ -51,37 +51,6 @@ Lines dealt(const State& s) {
   return cards;
 }
 
-// Plays on until the upcard lies, and leaves.
-Lines deal_and_leave(Game& game) {
-  Lines cards;
-  game.window.on_pass = [&] {
-    if (game.s().tallone != 54 || game.s().pozzo[0] == 0 || !cards.empty()) return;
-    cards = dealt(game.s());
-    game.window.close();
-  };
-  game.until([] { return false; });
-  game.play();
-  return cards;
-}
-
-TEST(Replay, DealsTheSameCardsAgainInTheNextRunAndTheOneAfter) {
-  Game first(5);
-  const Lines cards = deal_and_leave(first);
-  ASSERT_EQ(cards.size(), 53U);
-  std::string file = first.archive.files.at("config.zvq");
-  for (const std::uint64_t seed : {6, 7}) {
-    Game again(seed, file);
-    again.choose(menu_replay);
-    EXPECT_EQ(deal_and_leave(again), cards);
-    EXPECT_EQ(again.s().cartaro, first.s().cartaro);
-    EXPECT_EQ(again.s().numero_mano, 0);
-    file = again.archive.files.at("config.zvq");
-    EXPECT_EQ(file, first.archive.files.at("config.zvq"));
-  }
-  Game shuffled(8, file);
-  EXPECT_NE(deal_and_leave(shuffled), cards) << "without the mark";
-}
-
 constexpr const char* kNotice =
     "Nel punteggio finale saranno riportati i risultati della mano ripetuta\n"
     "Questi sostituiranno quelli della mano precedente";

@@ -112,7 +112,7 @@ std::string no_deck(Found found, std::mt19937_64& random) {
     return static_cast<int>(random() % static_cast<std::uint64_t>(n));
   };
   const int first = below(found == Found::one_suit ? kSuits : kCards - 3);
-  std::string file = " 2 \r\nLEO\r\nADA\r\nPIA\r\nUGO\r\n 1 \r\n 0 \r\n 100 \r\n";
+  std::string file = options();
   for (int slot = 1; slot <= kCards; ++slot) {
     int card = 1 + below(kCards);
     if (found == Found::one_suit) card = 1 + first * kRanks + below(kRanks);
@@ -127,8 +127,8 @@ long storm_over_a_run(std::uint64_t seed, Watch& watch) {
   std::mt19937_64 random(seed);
   const auto found = static_cast<Found>(seed % kFinds);
   const bool whole_deck = found == Found::nothing || found == Found::deal;
-  std::string settings = whole_deck ? kept_deal() : no_deck(found, random);
-  if (seed % 4 == 0) settings.replace(settings.find("100"), 3, "80");  // smaller cards
+  const std::string settings = whole_deck ? kept_deal(4, seed % 4 == 0 ? 80 : 100)  // smaller cards
+                                          : no_deck(found, random);
   Game game(seed, found == Found::nothing ? "" : settings);
   Storm storm(game, seed);
   game.window.on_box = [&] {

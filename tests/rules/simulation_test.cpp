@@ -91,46 +91,6 @@ TEST(DeadHand, IsOneThatNobodyCanEnd) {
   }
 }
 
-// A storm of codes, sensible or not, at every x, in the wait and in the pauses: the state stays
-// whole and the hands come to their end.
-TEST(Storm, AnyCodeAtAnyMomentHarmsNothing) {
-  Deal d(5);
-  std::mt19937 engine(9);
-  const auto script = make_script(ScriptKind::melder, 5);
-  bool stormy = false;  // other turns are played sensibly, so that there are melds to storm at
-  int posts = 0;
-  const auto post_anything = [&] {
-    d.s.x_click = static_cast<float>(static_cast<int>(engine() % 2000) - 600) / 2;
-    d.s.azione = static_cast<std::uint8_t>(engine() % 12);
-  };
-  d.out.in_pause = post_anything;
-  d.out.otherwise = [&] {
-    ++posts;
-    if (d.s.azione == kDealerDraw) {
-      d.s.carta_scelta = static_cast<std::uint8_t>(d.s.mazzo[d.s.indice_estrazione]);
-    } else if (stormy) {
-      post_anything();
-    } else {
-      script->act(d.s, d.m);
-    }
-  };
-  auto& match = d.rules.match;
-  match.prepare_match();
-  int hands = 0;
-  for (; posts < 60000; ++hands, match.next_hand()) {
-    match.start_hand();
-    for (bool over = false; !over;) {
-      d.log.clear();
-      stormy = engine() % 2 == 0;
-      over = match.play_turn();
-      ASSERT_EQ(over ? "" : check_state(d.s, {}), "") << "post " << posts;
-      if (!over) match.pass_turn();
-    }
-    match.end_hand();
-  }
-  EXPECT_GT(hands, 50);
-}
-
 // The check itself finds what it is there for.
 TEST(StateCheck, FindsBrokenStates) {
   Simulation simulation(ScriptKind::melder, 1);

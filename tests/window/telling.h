@@ -96,9 +96,6 @@ inline std::string texts(const Surface& surface) {
 inline void add_window(Line& line, Window& w) {
   line.add("replay", w.enabled(menu_replay)).add("continue", w.enabled(menu_continue));
   line.add("names", w.enabled(personalize_players)).add("marked", w.checked(menu_replay));
-  for (int i = 1; i <= 3; ++i) {
-    if (w.checked(velocita_0 + i)) line.add("speed", i);
-  }
   line.add("rustle", w.checked(menu_card_rustle_1)).add("opening", w.visible(quadro));
   line.add("rules", w.visible(TxtItaliano)).add("help", w.visible(TxtHelp));
   line.add("info", w.visible(Text4)).add("dialog", w.visible(TxtPlayer_0 + 1));
