@@ -91,7 +91,7 @@ const std::vector<Choice> kChoices = {
 void choose_all(Game& game, const Moment& moment) {
   for (const Choice& choice : kChoices) {
     Lines wanted = everything(game);
-    for (const auto& line : choice.goes) std::erase(wanted, line);
+    for (const auto& line : choice.goes) EXPECT_EQ(std::erase(wanted, line), 1U) << line;
     wanted.insert(wanted.end(), choice.comes.begin(), choice.comes.end());
     std::sort(wanted.begin(), wanted.end());
     EXPECT_TRUE(game.window.choose(choice.entry));

@@ -59,22 +59,6 @@ TEST_F(Table, AMatchIsPlayedWithKeysAlone) {
   expect_still_running();
 }
 
-TEST_F(Table, ATieIsDrawnAgain) {
-  start_quick({.clock = kTieThenKing});
-  dismiss_opening();
-  turn_up(1, 4);
-  wait_until("the box", [](const View& v) { return v.text("box") == "Ripeti, prego"; });
-  press(400, 100);  // beside the box: it stays
-  expect_still_running();
-  EXPECT_EQ(view.text("box"), "Ripeti, prego");
-  press_screen("OK");
-  wait_until("the second pass", [](const View& v) { return v.text("box").empty(); });
-  EXPECT_EQ(view.number("index"), 4) << "seat 2 gets the card that seat 1 had";
-  turn_up(4, 7);
-  wait_for("pile", 1);
-  EXPECT_EQ(view.number("dealer"), 1);
-}
-
 // The person opens, and holds four cards in a run.
 TEST_F(Table, MeldsAdditionsAndDiscards) {
   begin({.clock = kRunInHand});
