@@ -43,7 +43,7 @@ const std::vector<Choice> kChoices = {
     {{"Musica", "Nessuna"}, {"alt+m", "Return"}, {{"checks", "Bassa Si Nessuna "}}},
     {{"Esci"}, {"alt+e"}, {{"box", "Uscire da Tombrello?"}}},
     {{"No"}, {"Escape"}, {{"box", ""}}},
-    {{"Partita", "Continua"}, {"alt+p", "Down", "Return"}, {{"popup", "1"}}},  // disabled
+    {{"Partita", "Continua"}, {"alt+p"}, {{"popup", "1"}}},  // where nothing is enabled
 };
 
 const std::vector<std::string> kLookedAt = {
