@@ -107,7 +107,6 @@ TEST_F(ArchiveTest, TheUsersOwnFileCountsWhereItIsNewerOrTheOnlyOne) {
   EXPECT_EQ(nowhere.read("config.zvq", 99), "new");
 }
 
-// Also for those who may write everywhere.
 TEST_F(ArchiveTest, AnInstalledProgramKeepsNothingBesideItself) {
   put(program("config.zvq"), "beside");
   DiskArchive installed(folder_ / "program", folder_ / "user", DiskArchive::Keep::with_user);

@@ -177,13 +177,14 @@ inline std::string options(int scale = 100) {
   return " 2 \r\nLEO\r\nADA\r\nPIA\r\nUGO\r\n 1 \r\n 0 \r\n " + std::to_string(scale) + " \r\n";
 }
 
-/// One with a deal: the deck in falling order, packs in turn, so that seat 1 gets spades with the
-/// dealer 4, who has the last packet.
+/// One with a deal: the deck in falling order, some packs swapped, so that seat 1 gets spades with
+/// the dealer 4, who has the last packet.
 inline std::string kept_deal(int dealer = 4, int scale = 100) {
   std::string file = options(scale);
   for (int card = kCards; card >= 1; --card) {
-    const int twin = card > kPack ? card - kPack : card + kPack;
-    file += " " + std::to_string(card % 2 == 0 ? card : twin) + " \r\n";
+    const int other = card > kPack ? card - kPack : card + kPack;
+    const bool swap = first_pack_twin(card) % 3 == 0;
+    file += " " + std::to_string(swap ? other : card) + " \r\n";
   }
   return file + " " + std::to_string(dealer) + " \r\n";
 }
