@@ -64,6 +64,7 @@ TEST_F(TableTest, TheReshuffleLeavesNothingBehind) {
   EXPECT_FALSE(has(pictures(), before.front())) << "the pile is gone";
   table_.reshuffle_ends();
   EXPECT_FALSE(has(texts(), "Rimescolo"));
+  EXPECT_TRUE(has(boxes(), "box 350,390 500,400 felt"));
   EXPECT_EQ(pictures(), Lines(before.begin() + 1, before.end())) << "melds over all boxes again";
 }
 
