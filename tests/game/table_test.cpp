@@ -49,6 +49,15 @@ TEST_F(TableTest, WhatOneStripErasesOfAnotherComesBack) {
   }
 }
 
+// A moment before the hands are painted anew.
+TEST_F(TableTest, DrawnCardsLandBehindTheHands) {
+  s_.n_mano[1] = 13;
+  table_.card_drawn(104);
+  for (const int seat : {2, 3, 4}) table_.card_landed(seat, 60);
+  EXPECT_EQ(pictures(), (Lines{"K♠ 510,485.75 570,580", "back1 lying 20,505 114.25,565",
+                               "back1 636.7,20 696.7,114.25", "back1 lying 685.75,505 780,565"}));
+}
+
 TEST_F(TableTest, TheReshuffleLeavesNothingBehind) {
   melds(1, {1, 2, 3, 1000});
   melds(4, {40, 41, 42, 43, 44, 45, 46, 47, 48, 49, 1000});  // lies under the extra back
