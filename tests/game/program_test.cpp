@@ -136,6 +136,19 @@ TEST(Menus, APanelLiesInFrontAndGoesAtAPressOnItOrBeside) {
   game.play_to_end();
 }
 
+TEST(Menus, ThatNothingCanBeKeptIsSaidOnce) {
+  Game game;
+  game.archive.to_come = Trouble::full;
+  const auto says = [&](bool so) {
+    game.then([&game, so] { EXPECT_EQ(has({game.window.told_now}, "spazio"), so); });
+  };
+  game.choose(menu_card_rustle_0);
+  says(true);
+  game.dismiss().choose(menu_card_rustle_1);
+  says(false);
+  game.play_to_end();
+}
+
 TEST(Leaving, YesToEsciEndsTheGame) {
   Game game;
   game.dismiss().choose(esci).then([] { FAIL() << "the window is closed"; });
