@@ -35,6 +35,7 @@ class PictureCache {
 
   explicit PictureCache(PictureSource source);
 
+  Drawing vectors(Picture picture) const { return source_(picture); }
   const Rendered* find(const Look& look);      ///< null if it isn't rendered yet
   const Rendered& rendered(const Look& look);  ///< stays until `drop_unused`
   /// The same picture in any size, for a moment of stretching; null if there is none.

@@ -36,7 +36,7 @@ QImage view_of(const raster::Bitmap& bitmap) {
 }
 
 PixelRect QtLetters::pixels(const TextItem& item, const painting::TableGeometry& geometry) const {
-  const QRect touched = text_place(item, geometry).pixels;
+  const QRect touched = text_pixels(item, geometry);
   return {touched.left(), touched.top(), touched.right() + 1, touched.bottom() + 1};
 }
 
@@ -61,9 +61,10 @@ void QtCanvas::picture(const raster::Bitmap& bitmap, const PixelRect& place,
 void QtCanvas::text(const TextItem& item, const painting::TableGeometry& geometry,
                     const Region& visible) {
   const ClipTo clip(painter_, visible);
-  painter_.setFont(table_font(item.font, geometry));
+  const QFont font = table_font(item.font, geometry);
+  painter_.setFont(font);
   painter_.setPen(to_qcolor(item.colour));
-  painter_.drawText(text_place(item, geometry).baseline, QString::fromStdString(item.text));
+  painter_.drawText(text_baseline(item, font, geometry), QString::fromStdString(item.text));
 }
 
 }  // namespace tombrello::qt

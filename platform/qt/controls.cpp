@@ -15,6 +15,7 @@
 #include "qt/canvas.h"
 #include "qt/table_widget.h"
 #include "qt/text_style.h"
+#include "raster/rasteriser.h"
 
 namespace tombrello::qt {
 namespace {
@@ -196,10 +197,11 @@ void ShapeControl::fit(const Area& area, const TableGeometry& geometry) {
 }
 
 PictureControl::PictureControl(ControlId id, Picture picture, QWidget& parent,
-                               painting::PictureCache& pictures, WindowEvents& events)
+                               const painting::PictureCache& pictures, WindowEvents& events)
     : QWidget(&parent), id_(id), picture_(picture), pictures_(pictures), events_(events) {
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::ArrowCursor);
+  parent.installEventFilter(this);
 }
 
 void PictureControl::fit(const Area& area, const TableGeometry& geometry) {
@@ -214,8 +216,25 @@ void PictureControl::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.translate(-pos());
   use_true_pixels(painter, ratio_);
-  const painting::Look look{picture_, false, false, {pixels_.width(), pixels_.height()}};
-  painter.drawImage(to_qrect(pixels_).topLeft(), view_of(pictures_.rendered(look).image));
+  prepare();
+  if (coming_.valid()) bitmap_ = coming_.get();
+  painter.drawImage(to_qrect(pixels_).topLeft(), view_of(bitmap_));
+}
+
+void PictureControl::prepare() {
+  const QSize size(pixels_.width(), pixels_.height());
+  if (size == asked_for_) return;
+  asked_for_ = size;
+  coming_ = std::async([drawing = pictures_.vectors(picture_), size] {
+    return raster::rasterise(drawing, size.width(), size.height());
+  });
+}
+
+// What lies under it is painted first: a window's worth of pixels, and at the start new memory for
+// each. Other threads rasterise meanwhile.
+bool PictureControl::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::Paint && isVisible() && !pixels_.empty()) prepare();
+  return false;
 }
 
 void PictureControl::mousePressEvent(QMouseEvent* event) {
@@ -236,6 +255,12 @@ void PictureControl::keyPressEvent(QKeyEvent* event) {
 
 void PictureControl::showEvent(QShowEvent*) {
   setFocus();
+}
+
+void PictureControl::hideEvent(QHideEvent*) {
+  asked_for_ = {};
+  coming_ = {};
+  bitmap_ = {};
 }
 
 }  // namespace tombrello::qt

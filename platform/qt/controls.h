@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QTextEdit>
 #include <QWidget>
+#include <future>
 
 #include "painting/picture_cache.h"
 #include "qt/geometry.h"
@@ -73,11 +74,12 @@ class ShapeControl : public QWidget, public Control {
   QColor colour_;
 };
 
-/// A picture that can be clicked, and that takes the keyboard while it shows.
+/// A picture that can be clicked, and that takes the keyboard while it shows. Its pixels are kept
+/// no longer than that.
 class PictureControl : public QWidget, public Control {
  public:
-  PictureControl(ControlId id, Picture picture, QWidget& parent, painting::PictureCache& pictures,
-                 WindowEvents& events);
+  PictureControl(ControlId id, Picture picture, QWidget& parent,
+                 const painting::PictureCache& pictures, WindowEvents& events);
   QWidget& widget() override { return *this; }
   void fit(const Area& area, const TableGeometry& geometry) override;
 
@@ -87,13 +89,20 @@ class PictureControl : public QWidget, public Control {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  bool eventFilter(QObject* parent, QEvent* event) override;
 
  private:
+  void prepare();
+
   ControlId id_;
   Picture picture_;
-  painting::PictureCache& pictures_;
+  const painting::PictureCache& pictures_;
   WindowEvents& events_;
-  painting::PixelRect pixels_;  ///< the table's
+  QSize asked_for_;
+  std::future<raster::Bitmap> coming_;  ///< in the size asked for
+  raster::Bitmap bitmap_;               ///< what has come
+  painting::PixelRect pixels_;          ///< the table's
   double ratio_ = 1;
 };
 

@@ -5,8 +5,10 @@
 namespace tombrello::qt {
 
 Overlay::Overlay(TableWidget& table, WindowEvents& events) : table_(table), events_(events) {
-  table_.set_follower([this](const TableGeometry& geometry) {
-    for (auto& [id, placed] : controls_) placed.control->fit(placed.area, geometry);
+  table_.set_follower([this] {
+    for (auto& [id, placed] : controls_) {
+      if (!placed.control->widget().isHidden()) fit(placed);
+    }
   });
 }
 
@@ -45,10 +47,14 @@ void Overlay::add_picture(ControlId control, Picture picture) {
 }
 
 void Overlay::place(ControlId control, const Area& area) {
-  if (Placed* placed = find(control)) {
-    placed->area = area;
-    placed->control->fit(area, table_.geometry_in_pixels());
-  }
+  Placed* placed = find(control);
+  if (placed == nullptr) return;
+  placed->area = area;
+  if (!placed->control->widget().isHidden()) fit(*placed);
+}
+
+void Overlay::fit(Placed& placed) {
+  placed.control->fit(placed.area, table_.geometry_in_pixels());
 }
 
 // The keyboard doesn't wander on to the next field: it returns to the opening picture, if that
@@ -58,6 +64,7 @@ void Overlay::set_visible(ControlId control, bool visible) {
   if (placed == nullptr) return;
   QWidget& widget = placed->control->widget();
   if (!visible && widget.hasFocus()) keyboard_rest(&widget).setFocus();
+  if (visible) fit(*placed);
   widget.setVisible(visible);
 }
 

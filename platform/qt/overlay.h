@@ -10,7 +10,7 @@
 namespace tombrello::qt {
 
 /// The controls that lie over the table, by their numbers. A number that nobody added is
-/// ignored.
+/// ignored. Those that don't show aren't laid out.
 class Overlay {
  public:
   Overlay(TableWidget& table, WindowEvents& events);
@@ -36,6 +36,7 @@ class Overlay {
 
   void add(ControlId id, std::unique_ptr<Control> control);
   Placed* find(ControlId id);
+  void fit(Placed& placed);
   QWidget& keyboard_rest(const QWidget* leaving);
 
   TableWidget& table_;

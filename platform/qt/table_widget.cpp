@@ -86,7 +86,7 @@ TableWidget::TableWidget(painting::PictureSource source, WindowEvents& events)
   setFocusPolicy(Qt::StrongFocus);
 }
 
-void TableWidget::set_follower(std::function<void(const TableGeometry&)> follower) {
+void TableWidget::set_follower(std::function<void()> follower) {
   follower_ = std::move(follower);
 }
 
@@ -104,7 +104,7 @@ void TableWidget::follow_screen() {
     stale_sizes_ = true;
   }
   geometry_ = current;
-  if (follower_) follower_(geometry_);
+  if (follower_) follower_();
   update();
 }
 

@@ -24,7 +24,7 @@ class TableWidget : public QWidget {
   painting::PictureCache& pictures() { return pictures_; }
   const TableGeometry& geometry_in_pixels() const { return geometry_; }
   /// Called whenever the table has moved or changed its size.
-  void set_follower(std::function<void(const TableGeometry&)> follower);
+  void set_follower(std::function<void()> follower);
   /// Called once, soon after the table has first been painted.
   void after_first_paint(std::function<void()> action) { first_paint_ = std::move(action); }
 
@@ -66,7 +66,7 @@ class TableWidget : public QWidget {
   painting::PictureCache pictures_;
   QtLetters letters_;
   TableGeometry geometry_{QSize(800, 600), 1, 96};
-  std::function<void(const TableGeometry&)> follower_;
+  std::function<void()> follower_;
   std::function<void()> first_paint_;
   bool stale_sizes_ = false;
   std::optional<Area> mark_;

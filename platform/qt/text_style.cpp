@@ -7,13 +7,13 @@
 namespace tombrello::qt {
 
 QFont control_font(const Font& font) {
+  // Made once: names are printed anew with every card.
+  static const QStringList script{"Z003", "URW Chancery L", "Liberation Serif", "serif"};
+  static const QStringList plain{"Liberation Sans", "Arimo", "DejaVu Sans", "sans-serif"};
   QFont result;
-  if (font.name == "Brush Script MT") {
-    result.setFamilies({"Z003", "URW Chancery L", "Liberation Serif", "serif"});
-    result.setItalic(true);
-  } else {
-    result.setFamilies({"Liberation Sans", "Arimo", "DejaVu Sans", "sans-serif"});
-  }
+  const bool is_script = font.name == "Brush Script MT";
+  result.setFamilies(is_script ? script : plain);
+  result.setItalic(is_script);
   result.setPointSizeF(std::max(1.0, static_cast<double>(font.size)));
   // Coloured fringes look wrong on coloured felt, and differ between screens.
   result.setStyleStrategy(
@@ -28,18 +28,21 @@ QFont table_font(const Font& font, const painting::TableGeometry& geometry) {
   return result;
 }
 
-TextPlace text_place(const TextItem& item, const painting::TableGeometry& geometry) {
+QPoint text_baseline(const TextItem& item, const QFont& font,
+                     const painting::TableGeometry& geometry) {
   const painting::PixelPlace corner = geometry.pixel(item.x, item.y);
-  QPoint top_left(corner.x, corner.y);
+  QPoint start(corner.x, corner.y);
   for (const Font& line : item.lines_above) {
-    top_left.ry() += QFontMetrics(table_font(line, geometry)).height();
+    start.ry() += QFontMetrics(table_font(line, geometry)).height();
   }
-  const QFontMetrics metrics(table_font(item.font, geometry));
-  const QString text = QString::fromStdString(item.text);
-  const QPoint baseline = top_left + QPoint(0, metrics.ascent());
-  const QRect line(top_left, QSize(metrics.horizontalAdvance(text), metrics.height()));
-  const QRect ink = metrics.boundingRect(text).translated(baseline);
-  return {line.united(ink).adjusted(-2, -2, 2, 2), baseline};
+  start.ry() += QFontMetrics(font).ascent();
+  return start;
+}
+
+QRect text_pixels(const TextItem& item, const painting::TableGeometry& geometry) {
+  const QFont font = table_font(item.font, geometry);
+  const QRect ink = QFontMetrics(font).boundingRect(QString::fromStdString(item.text));
+  return ink.translated(text_baseline(item, font, geometry)).adjusted(-2, -2, 2, 2);
 }
 
 }  // namespace tombrello::qt

@@ -17,11 +17,11 @@ QFont control_font(const Font& font);
 /// into pixels.
 QFont table_font(const Font& font, const painting::TableGeometry& geometry);
 
-/// Every pixel that a line of text may touch, and the left end of its baseline.
-struct TextPlace {
-  QRect pixels;
-  QPoint baseline;
-};
-TextPlace text_place(const TextItem& item, const painting::TableGeometry& geometry);
+/// The left end of the baseline of a line of text, whose own font is handed in.
+QPoint text_baseline(const TextItem& item, const QFont& font,
+                     const painting::TableGeometry& geometry);
+
+/// Every pixel that it may touch.
+QRect text_pixels(const TextItem& item, const painting::TableGeometry& geometry);
 
 }  // namespace tombrello::qt

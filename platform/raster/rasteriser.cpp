@@ -10,8 +10,12 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cassert>
 #include <cmath>
+#include <system_error>
+#include <thread>
+#include <vector>
 
 #include "raster/polylines.h"
 
@@ -80,20 +84,25 @@ class Gradient {
   std::array<agg::rgba8, 512> colours_{};
 };
 
+/// Paints the rows from `top` up to `bottom`, which is the first that it leaves alone.
 class Painter {
  public:
-  Painter(Bitmap& bitmap, Place scale)
-      : scale_(scale),
+  Painter(Bitmap& bitmap, Place scale, int top, int bottom)
+      : top_(top),
+        bottom_(bottom),
+        scale_(scale),
         line_scale_(std::max(scale.x, scale.y)),
         buffer_(reinterpret_cast<agg::int8u*>(bitmap.pixels.data()),
                 static_cast<unsigned>(bitmap.width), static_cast<unsigned>(bitmap.height),
                 bitmap.width * 4),
         pixels_(buffer_),
         renderer_(pixels_) {
-    edges_.clip_box(0, 0, bitmap.width, bitmap.height);
+    edges_.clip_box(0, top, bitmap.width, bottom);
+    renderer_.clip_box(0, top, bitmap.width - 1, bottom - 1);
   }
 
   void paint(const Shape& shape) {
+    if (!reaches_rows(shape)) return;
     const std::vector<Polyline> lines = flattened(shape.path, line_scale_);
     if (shape.filled) {
       edges_.filling_rule(shape.even_odd ? agg::fill_even_odd : agg::fill_non_zero);
@@ -104,6 +113,17 @@ class Painter {
   }
 
  private:
+  // A shape lies between its points.
+  bool reaches_rows(const Shape& shape) const {
+    const auto& points = shape.path.points;
+    if (points.empty()) return false;
+    const auto higher = [](Point a, Point b) { return a.y < b.y; };
+    const auto [first, last] = std::minmax_element(points.begin(), points.end(), higher);
+    const double around = static_cast<double>(shape.stroke_width) * line_scale_ / 2 + 1;
+    return static_cast<double>(first->y) * scale_.y -
+           around<bottom_&& static_cast<double>(last->y) * scale_.y + around> top_;
+  }
+
   void add(const Polyline& line) {
     bool first = true;
     for (const Place& place : line.places) {
@@ -135,6 +155,8 @@ class Painter {
     edges_.reset();
   }
 
+  int top_;
+  int bottom_;
   Place scale_;  ///< pixels a unit
   double line_scale_;
   agg::rendering_buffer buffer_;
@@ -145,15 +167,36 @@ class Painter {
   agg::span_allocator<agg::rgba8> spans_;
 };
 
+// A picture higher than a card is painted in bands of so many rows: enough that what is done for
+// each band anew doesn't matter, few enough that no core is left with the fullest part.
+constexpr int kHighest = 400;
+constexpr int kBandRows = 120;
+
 }  // namespace
 
 Bitmap rasterise(const Drawing& drawing, int w, int h) {
   assert(w >= 1 && h >= 1);
   Bitmap bitmap(w, h);
   if (drawing.width <= 0 || drawing.height <= 0) return bitmap;
-  Painter painter(
-      bitmap, {w / static_cast<double>(drawing.width), h / static_cast<double>(drawing.height)});
-  for (const Shape& shape : drawing.shapes) painter.paint(shape);
+  const Place scale{w / static_cast<double>(drawing.width),
+                    h / static_cast<double>(drawing.height)};
+  const int bands = h <= kHighest ? 1 : h / kBandRows;
+  std::atomic<int> next = 0;
+  const auto paint_bands = [&] {
+    for (int band = next++; band < bands; band = next++) {
+      Painter painter(bitmap, scale, h * band / bands, h * (band + 1) / bands);
+      for (const Shape& shape : drawing.shapes) painter.paint(shape);
+    }
+  };
+  const int cores = std::min(bands, static_cast<int>(std::thread::hardware_concurrency()));
+  std::vector<std::jthread> helpers;
+  try {
+    for (int core = 1; core < cores; ++core) helpers.emplace_back(paint_bands);
+  } catch (const std::system_error&) {
+    // No more threads are to be had: those that are paint all.
+  }
+  paint_bands();
+  helpers.clear();
   return bitmap;
 }
 

@@ -133,5 +133,26 @@ TEST(Bitmap, TurnsAndMirrorsToThePixel) {
   EXPECT_NE(turned, upright);
 }
 
+// Whatever lies across rows that different cores paint.
+TEST(Rasteriser, LeavesNoSeamInALargePicture) {
+  Drawing drawing{700, 700, {}};
+  for (const float left : {-300.0F, -100.0F, 100.0F}) {
+    Shape line;
+    line.filled = false;
+    line.stroke_width = 2.5F;
+    line.stroke = {200, 0, 0, 255};
+    line.path.move({left - 50, -50});
+    line.path.line({left + 750, 750});
+    drawing.shapes.push_back(line);
+  }
+  const Bitmap image = rasterise(drawing, 700, 700);
+  for (int y = 1; y < 700; ++y) {
+    for (int x = 1; x < 700; ++x) {
+      ASSERT_EQ(image.at(x, y), image.at(x - 1, y - 1)) << x << ' ' << y;
+    }
+  }
+  EXPECT_EQ(image.at(400, 300), 0xFFC80000U);
+}
+
 }  // namespace
 }  // namespace tombrello::raster
