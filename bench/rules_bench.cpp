@@ -23,13 +23,23 @@ void count_turns(benchmark::State& run, std::int64_t turns) {
 
 // Shuffle, deal, turns and count; seat 1 only draws and discards, so that nearly all of the time
 // is the computer seats'.
-void whole_hands(benchmark::State& run) {
+void play_hands(benchmark::State& run, bool checked) {
   Simulation simulation(ScriptKind::simple, 1);
   std::int64_t turns = 0;
-  for (auto _ : run) turns += simulation.play_hand(kMostTurns, false).computer_turns;
+  for (auto _ : run) turns += simulation.play_hand(kMostTurns, checked).computer_turns;
   count_turns(run, turns);
 }
+
+void whole_hands(benchmark::State& run) {
+  play_hands(run, false);
+}
 BENCHMARK(whole_hands);
+
+// The same with the state checked after each turn, seat 1's too.
+void whole_hands_checked(benchmark::State& run) {
+  play_hands(run, true);
+}
+BENCHMARK(whole_hands_checked);
 
 /// An engine on a state that a benchmark sets before each run. Seat 1 only draws and discards.
 class Engine {
