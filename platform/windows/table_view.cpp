@@ -65,6 +65,12 @@ bool moves_mark(Key key) {
 TableView::TableView(painting::PictureSource source, WindowEvents& events)
     : events_(events), pictures_(std::move(source)) {}
 
+TableView::~TableView() {
+  if (accessible_ == nullptr) return;
+  accessible_->leave();
+  CoUninitialize();
+}
+
 void TableView::create_in(HWND frame) {
   create(L"TombrelloTable", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, frame);
 }
@@ -138,6 +144,17 @@ void TableView::set_mark(const std::optional<Area>& area) {
   repaint_mark();
 }
 
+LRESULT TableView::accessible_object(WPARAM w) {
+  if (accessible_ == nullptr && SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {
+    accessible_ = new AccessibleTable(handle(), geometry_, events_);
+  }
+  return accessible_ == nullptr ? 0 : LresultFromObject(IID_IAccessible, w, accessible_);
+}
+
+void TableView::set_places(const std::vector<TablePlace>& places, int focus) {
+  if (accessible_ != nullptr) accessible_->set_places(places, focus);
+}
+
 bool TableView::key(UINT message, WPARAM pressed, LPARAM l) {
   const std::optional<Key> key = key_of(pressed);
   if (!key) return false;
@@ -196,6 +213,9 @@ LRESULT TableView::message(UINT message, WPARAM w, LPARAM l) {
     case WM_SIZE:
       follow_screen();
       return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(l) == OBJID_CLIENT) return accessible_object(w);
+      break;
     case WM_LBUTTONDOWN:
       pressed(Button::left, l);
       return 0;

@@ -6,6 +6,7 @@
 
 #include "painting/composition.h"
 #include "seam/window.h"
+#include "windows/accessible_table.h"
 #include "windows/back_buffer.h"
 #include "windows/letters.h"
 #include "windows/native_window.h"
@@ -16,6 +17,7 @@ namespace tombrello::windows {
 class TableView : public NativeWindow {
  public:
   TableView(painting::PictureSource source, WindowEvents& events);
+  ~TableView() override;
   void create_in(HWND frame);
 
   Surface& surface() { return surface_; }
@@ -34,8 +36,8 @@ class TableView : public NativeWindow {
   void set_pointer(PointerShape shape);
   PointerShape pointer() const { return pointer_; }
 
-  bool wants_places() const { return false; }
-  void set_places(const std::vector<TablePlace>&, int) {}
+  bool wants_places() const { return accessible_ != nullptr; }
+  void set_places(const std::vector<TablePlace>& places, int focus);
 
   /// A key that whoever has the keyboard has no use for: help and escape are the table's anywhere.
   bool take_key_from_elsewhere(WPARAM key);
@@ -44,6 +46,7 @@ class TableView : public NativeWindow {
   LRESULT message(UINT message, WPARAM w, LPARAM l) override;
 
  private:
+  LRESULT accessible_object(WPARAM w);
   void follow_screen();
   void repaint(const painting::Region& region);
   void paint();
@@ -64,6 +67,7 @@ class TableView : public NativeWindow {
   painting::Region stale_;  ///< to be painted into the buffer
   bool stale_sizes_ = false;
   std::optional<Area> mark_;
+  AccessibleTable* accessible_ = nullptr;  ///< made when somebody asks for it
   PointerShape pointer_ = PointerShape::arrow;
   std::function<void()> follower_;
   std::function<void()> first_paint_;
