@@ -138,6 +138,9 @@ TEST_F(Shell, TheLastHandCanBeDealtAgain) {
   const auto dealt = view.numbers("deck");
   wait_until("the file", [&](const View&) { return !file("config.zvq").empty(); });
   const std::string kept = file("config.zvq");
+  std::string settings = " 1 \r\nTU\r\nOVEST\r\nNORD\r\nEST\r\n 1 \r\n 0 \r\n 100 \r\n";
+  for (const int card : dealt) settings += ' ' + std::to_string(card) + " \r\n";
+  EXPECT_EQ(kept, settings + ' ' + view.text("dealer") + " \r\n") << "on every system";
   const std::string hands = view.text("hand1") + view.text("hand2") + view.text("hand3");
   game->kill();
   game->waitForFinished(5000);
