@@ -189,14 +189,16 @@ void DesktopSession::start_quick(Quick quick) {
              [](const View& v) { return v.number("opening") == 1 && v.number("ready") == 1; });
 }
 
-void DesktopSession::start_shipped() {
-  if (kWindows != nullptr) {
-    files::copy_file(kWindows + std::string("/Tombrello.exe"), folder / "Tombrello.exe",
-                     files::copy_options::overwrite_existing);
-    return start(under_wine({folder / "Tombrello.exe"}));
-  }
-  files::copy_file(TOMBRELLO, folder / "tombrello", files::copy_options::overwrite_existing);
-  start({folder / "tombrello"});
+// Nobody tells when it is ready for keys: the window manager does.
+void DesktopSession::start_shipped(const files::path& within) {
+  const files::path home = folder / within;
+  const std::string name = kWindows == nullptr ? "tombrello" : "Tombrello.exe";
+  files::create_directories(home);
+  files::copy_file(kWindows == nullptr ? TOMBRELLO : kWindows + ('/' + name), home / name,
+                   files::copy_options::overwrite_existing);
+  kWindows == nullptr ? start({home / name}) : start(under_wine({home / name}));
+  wait_until("the keyboard",
+             [&](const View&) { return xdo({"getactivewindow"}).out == window + '\n'; });
 }
 
 void DesktopSession::start(const std::vector<std::string>& words) {

@@ -75,7 +75,8 @@ class DesktopSession : public ::testing::Test {
   void TearDown() override;
 
   void start_quick(Quick quick = {});
-  void start_shipped();  ///< a copy of the program, in `folder`
+  /// A copy of the program, in a folder within `folder`.
+  void start_shipped(const std::filesystem::path& within = {});
   void start(const std::vector<std::string>& words);
 
   void wait_until(const std::string& what, const std::function<bool(const View&)>& holds,

@@ -138,6 +138,21 @@ TEST_F(Shipped, StartsWhateverLiesInTheSettingsFilesPlace) {
   starts("a link to itself");
 }
 
+// Also where a whole path is longer than old systems took.
+TEST_F(Shipped, KeepsItsSettingsBesideItselfInAnyFolder) {
+  const files::path part = "è" + std::string(100, 'l');
+  for (const files::path& within : {files::path("perché no (1) & 'ora' 🂡"), part / part / part}) {
+    SCOPED_TRACE(within);
+    start_shipped(within);
+    EXPECT_EQ(pixel(settled_shot(), 30, 300), 0xC0C0C0);
+    for (const char* each : {"alt+s", "Right", "Return"}) key(each);
+    const auto kept = [&](const View&) { return files::exists(folder / within / "config.zvq"); };
+    EXPECT_TRUE(comes_true(kept, Milliseconds(5000)));
+    close_by_frame();
+    expect_quiet_end();
+  }
+}
+
 TEST_F(Shipped, AnswersOnTheCommandLineWithoutAScreen) {
   environment.insert("DISPLAY", "");
   const Outcome version = run({TOMBRELLO, "--version"});
