@@ -14,10 +14,15 @@
 namespace tombrello::windows {
 namespace {
 
+constexpr int kMostTries = 5;
+constexpr DWORD kPause = 20;  // milliseconds between them
+
+// Whoever replaces or removes a file that is open here isn't kept from it.
 class File {
  public:
   File(const std::wstring& path, DWORD access, DWORD how, DWORD flags = FILE_ATTRIBUTE_NORMAL)
-      : handle_(CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, how, flags, nullptr)) {}
+      : handle_(CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, how,
+                            flags, nullptr)) {}
   File(const File&) = delete;
   File& operator=(const File&) = delete;
   ~File() { close(); }
@@ -87,14 +92,23 @@ Trouble trouble_of(DWORD error) {
   }
 }
 
+// Other programs look at a file as soon as it is written: a moment later they have done.
+bool move_over(const std::wstring& from, const std::wstring& to) {
+  for (int tries = 0;; ++tries) {
+    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+      return true;
+    }
+    const DWORD error = GetLastError();
+    const bool held = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+    if (!held || tries == kMostTries) return false;
+    Sleep(kPause);
+  }
+}
+
 // The old file, or the new one: whatever happens meanwhile.
 Trouble replace_file(const std::wstring& path, const std::string& content) {
   const std::wstring fresh = path + L".new";
-  if (write_whole(fresh, content) &&
-      MoveFileExW(fresh.c_str(), path.c_str(),
-                  MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-    return Trouble::none;
-  }
+  if (write_whole(fresh, content) && move_over(fresh, path)) return Trouble::none;
   const Trouble trouble = trouble_of(GetLastError());
   DeleteFileW(fresh.c_str());
   return trouble;
