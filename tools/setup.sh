@@ -22,7 +22,7 @@ fi
 case "${1:-}" in
   windows | wine)
     packages=(g++ cmake ninja-build g++-mingw-w64-x86-64-posix libagg-dev libutfcpp-dev googletest nsis) ;;&
-  wine) packages+=(wine wine64) ;;
+  wine) packages+=(wine wine64 xvfb openbox xdotool imagemagick) ;;
 esac
 
 missing=()
