@@ -17,13 +17,13 @@ class Desktop {
   Archive& archive() { return archive_; }
   MediaControl& wave() { return audio_.wave(); }
   MediaControl& sequencer() { return audio_.sequencer(); }
-  Beeper& beeper() { return audio_.wave(); }
+  Beeper& beeper() { return audio_.beeper(); }
   void set_media_events(MediaEvents* events) { audio_.set_events(events); }
 
  private:
   DesktopWindow window_;
   DiskArchive archive_{program_folder(), user_folder()};
-  Audio audio_{program_folder(), [this] { window_.wake(); }};
+  devices::Audio audio_;
 };
 
 }  // namespace tombrello::windows

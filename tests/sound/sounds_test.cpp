@@ -7,11 +7,11 @@
 #include <complex>
 #include <numbers>
 
-#include "qt/audio/takes.h"
+#include "devices/takes.h"
 #include "tests/sound/files.h"
 
 namespace tombrello {
-using namespace qt;
+using namespace devices;
 namespace {
 
 /// Decibels of the loudest tenth of a second, which is what an ear compares.

@@ -1,65 +1,107 @@
 #include "qt/audio/sdl_audio.h"
 
-#include <system_error>
-#include <thread>
+#include <map>
 #include <utility>
+#include <vector>
+
+#include "devices/takes.h"
+#include "qt/audio/sdl_mixer_device.h"
 
 namespace tombrello::qt {
 namespace {
 
-constexpr auto kPatience = std::chrono::milliseconds(500);
+using Device = std::shared_ptr<SdlMixerDevice>;
 
-// The thread is on its own from the start: joining it could wait for an audio server for ever.
-template <class Media>
-void run(const std::shared_ptr<typename Media::Box>& box, std::shared_ptr<SdlMixerDevice> device,
-         const std::filesystem::path& folder) {
-  try {
-    std::thread([box, device, folder]() mutable {
-      try {
-        Media::serve(*box, *device, folder);
-      } catch (const std::exception&) {
-        // Out of memory: from here on it is silent.
-      }
-      SdlMixerDevice::leave_thread();
-      device.reset();
-      box->finish();
-    }).detach();
-  } catch (const std::system_error&) {
-    box->finish();
+/// The waves that were asked for, loaded once each, with their other takes.
+class SdlWaves : public devices::WavePlayer {
+ public:
+  SdlWaves(Device device, std::filesystem::path folder)
+      : device_(std::move(device)), folder_(std::move(folder)) {}
+  ~SdlWaves() override {
+    {
+      const auto still = device_->hold_still();
+      waves_.clear();
+    }
+    lease_.reset();
+    SdlMixerDevice::leave_thread();
   }
+  SdlWaves(const SdlWaves&) = delete;
+  SdlWaves& operator=(const SdlWaves&) = delete;
+
+  bool wake() override {
+    lease_ = device_->lease();
+    return lease_ != nullptr;
+  }
+  void rest() override { lease_.reset(); }
+
+  std::size_t takes(const std::string& file) override {
+    const auto [place, fresh] = waves_.try_emplace(file);
+    for (int take = 1; fresh && take <= devices::kMostTakes; ++take) {
+      Chunk chunk = device_->load_wave(folder_ / devices::take_file(file, take));
+      if (chunk == nullptr) break;
+      place->second.push_back(std::move(chunk));
+    }
+    return place->second.size();
+  }
+  void play(const std::string& file, std::size_t take) override {
+    device_->play(*waves_.at(file).at(take));
+  }
+
+ private:
+  Device device_;
+  std::filesystem::path folder_;
+  SdlMixerDevice::Lease lease_;
+  std::map<std::string, std::vector<Chunk>> waves_;
+};
+
+class SdlTunes : public devices::TunePlayer {
+ public:
+  SdlTunes(Device device, std::filesystem::path folder)
+      : device_(std::move(device)), folder_(std::move(folder)) {}
+  ~SdlTunes() override {
+    SdlTunes::stop();
+    SdlMixerDevice::leave_thread();
+  }
+  SdlTunes(const SdlTunes&) = delete;
+  SdlTunes& operator=(const SdlTunes&) = delete;
+
+  std::optional<double> play(const std::string& file) override {
+    lease_ = device_->lease();
+    if (!has_device()) return std::nullopt;
+    double seconds = 0;
+    tune_ = device_->load_tune(folder_ / file, seconds);
+    if (tune_ == nullptr || !device_->play(*tune_)) return std::nullopt;
+    return seconds;
+  }
+  bool has_device() override { return lease_ != nullptr && device_->plays_tunes(); }
+  bool playing() override { return device_->tune_playing(); }
+  void stop() override {
+    tune_.reset();
+    lease_.reset();
+  }
+
+ private:
+  Device device_;
+  std::filesystem::path folder_;
+  SdlMixerDevice::Lease lease_;
+  Tune tune_;
+};
+
+std::string missing_soundfont() {
+  return SdlMixerDevice::has_soundfont() ? "" : "timgm6mb-soundfont";
+}
+
+devices::System system_of(const std::filesystem::path& folder, std::function<void()> beep) {
+  const auto device = std::make_shared<SdlMixerDevice>();
+  return {[=] { return std::make_unique<SdlWaves>(device, folder); },
+          [=] { return std::make_unique<SdlTunes>(device, folder); }, std::move(beep),
+          missing_soundfont};
 }
 
 }  // namespace
 
-SdlAudio::SdlAudio(std::filesystem::path folder, std::function<void()> wake,
+SdlAudio::SdlAudio(const std::filesystem::path& folder, std::function<void()> wake,
                    std::function<void()> system_beep, unsigned seed)
-    : folder_(std::move(folder)),
-      wave_(std::move(system_beep), seed),
-      sequencer_(std::move(wake)) {}
-
-SdlAudio::~SdlAudio() {
-  {
-    const std::lock_guard lock(sequencer_.box()->mutex);
-    sequencer_.box()->wake = nullptr;
-  }
-  if (!started_) return;
-  sequencer_.box()->ask_to_leave();
-  wave_.box()->ask_to_leave();
-  const auto latest = std::chrono::steady_clock::now() + kPatience;
-  sequencer_.box()->await_finish(latest);
-  wave_.box()->await_finish(latest);
-}
-
-void SdlAudio::start() {
-  if (std::exchange(started_, true)) return;
-  const auto device = std::make_shared<SdlMixerDevice>();
-  run<SdlWave>(wave_.box(), device, folder_);
-  run<SdlSequencer>(sequencer_.box(), device, folder_);
-}
-
-void SdlAudio::deliver() {
-  const int code = sequencer_.take_done();
-  if (code != 0 && events_ != nullptr) events_->media_done(code);
-}
+    : Audio(system_of(folder, std::move(system_beep)), std::move(wake), seed) {}
 
 }  // namespace tombrello::qt

@@ -2,15 +2,13 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <memory>
 #include <mutex>
-#include <thread>
 
-namespace tombrello::windows {
+namespace tombrello::devices {
 
 /// How the game's thread and a thread that plays meet. Both own it, and so it outlives a thread
 /// that a device keeps from ending.
-struct MediaBox {
+struct Box {
   std::mutex mutex;
   std::condition_variable changed;
   bool leaving = false;
@@ -32,4 +30,4 @@ struct MediaBox {
   }
 };
 
-}  // namespace tombrello::windows
+}  // namespace tombrello::devices

@@ -1,24 +1,21 @@
 #pragma once
 
 #include <cassert>
-#include <filesystem>
 #include <random>
 #include <string>
 
-namespace tombrello::qt {
+namespace tombrello::devices {
 
 // The takes of a sound lie side by side: NAME.wav, NAME-2.wav, NAME-3.wav and so on; the first
 // number that is missing ends them.
 
 inline constexpr int kMostTakes = 9;
 
-/// `take` 1..kMostTakes.
-inline std::filesystem::path take_file(const std::filesystem::path& file, int take) {
-  assert(take >= 1 && take <= kMostTakes);
-  if (take == 1) return file;
-  auto name = file.stem();
-  name.concat("-").concat(std::to_string(take)).concat(file.extension().string());
-  return file.parent_path() / name;
+/// `take` 1..kMostTakes; the file's name has an ending.
+inline std::string take_file(std::string file, int take) {
+  assert(take >= 1 && take <= kMostTakes && file.find('.') != file.npos);
+  if (take > 1) file.insert(file.rfind('.'), '-' + std::to_string(take));
+  return file;
 }
 
 /// Any of `count` takes but the one heard last, each as likely; both count from 0.
@@ -28,4 +25,4 @@ inline std::size_t next_take(std::size_t count, std::size_t last, std::minstd_ra
   return (last + 1 + chance() % (count - 1)) % count;
 }
 
-}  // namespace tombrello::qt
+}  // namespace tombrello::devices
