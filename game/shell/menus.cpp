@@ -85,12 +85,13 @@ void Program::tell_missing_package() {
 
 void Program::menu_replay_Click() {
   if (!s_.mano_salvata) {
-    message("Nessuna mano è stata ancora giocata");
+    window_.message_box("Nessuna mano è stata ancora giocata", Buttons::ok);
     return;
   }
-  message(
+  window_.message_box(
       "Nel punteggio finale saranno riportati i risultati della mano ripetuta\n"
-      "Questi sostituiranno quelli della mano precedente");
+      "Questi sostituiranno quelli della mano precedente",
+      Buttons::ok);
   window_.set_checked(menu_replay, true);
 }
 
