@@ -20,10 +20,12 @@ int width_of(HDC dc, const std::wstring& text) {
   return static_cast<int>(size.cx);
 }
 
-std::wstring without_beginning(HDC dc, const std::wstring& text, int room) {
+// Whole words go from the beginning, until the rest has room.
+std::wstring end_of(HDC dc, const std::wstring& text, int room) {
   if (width_of(dc, text) <= room) return text;
-  for (std::size_t from = 1; from < text.size(); ++from) {
-    const std::wstring rest = L'…' + text.substr(from);
+  std::size_t from = 0;
+  while ((from = text.find(L' ', from) + 1) > 0) {
+    const std::wstring rest = L"… " + text.substr(from);
     if (width_of(dc, rest) <= room) return rest;
   }
   return {};
@@ -37,6 +39,7 @@ ChronicleLine::~ChronicleLine() {
 
 void ChronicleLine::create_in(HWND frame) {
   create(L"TombrelloLine", WS_CHILD | WS_VISIBLE, frame);
+  be_alert();
 }
 
 void ChronicleLine::drop_letters() {
@@ -73,8 +76,9 @@ int ChronicleLine::height() {
 void ChronicleLine::tell(const std::string& now, const std::string& then) {
   now_ = wide(now);
   then_ = wide(then);
-  SetWindowTextW(handle(), (then_.empty() ? now_ : now_ + L" — " + then_).c_str());
-  NotifyWinEvent(EVENT_SYSTEM_ALERT, handle(), OBJID_CLIENT, CHILDID_SELF);
+  const std::wstring whole = then_.empty() ? now_ : now_ + L" — " + then_;
+  SetWindowTextW(handle(), whole.c_str());
+  read_out();
   InvalidateRect(handle(), nullptr, FALSE);
 }
 
@@ -95,7 +99,7 @@ void ChronicleLine::paint() {
   const int room = static_cast<int>(inside.right - inside.left) - left - pixels(kGap);
   SelectObject(dc, plain_);
   if (room > 0) {
-    DrawTextW(dc, without_beginning(dc, then_, room).c_str(), -1, &inside, kLayout | DT_RIGHT);
+    DrawTextW(dc, end_of(dc, then_, room).c_str(), -1, &inside, kLayout | DT_RIGHT);
   }
   SelectObject(dc, before);
   EndPaint(handle(), &shown);

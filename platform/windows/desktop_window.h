@@ -56,6 +56,9 @@ class DesktopWindow : public NativeWindow, public Window {
   void add_field(ControlId field, FieldRule rule, const Font& font) override {
     overlay_.add_field(field, rule, font);
   }
+  void name_field(ControlId field, const std::string& name) override {
+    overlay_.name_field(field, name);
+  }
   void add_shape(ControlId shape, Colour colour) override { overlay_.add_shape(shape, colour); }
   void add_picture(ControlId control, Picture picture) override {
     overlay_.add_picture(control, picture);

@@ -1,10 +1,12 @@
 #include "windows/field.h"
 
 #include <commctrl.h>
+#include <oleacc.h>
 
 #include <algorithm>
+#include <utility>
 
-#include "windows/strings.h"
+#include "windows/accessible_words.h"
 
 namespace tombrello::windows {
 namespace {
@@ -114,6 +116,11 @@ LRESULT CALLBACK Field::procedure(HWND window, UINT message, WPARAM w, LPARAM l,
       break;
     case WM_CONTEXTMENU:
       return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(l) == OBJID_CLIENT && !std::exchange(field.described_, true)) {
+        describe(window, field.name_, 0);
+      }
+      break;
     default:
       break;
   }

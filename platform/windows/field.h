@@ -4,6 +4,7 @@
 
 #include "seam/window.h"
 #include "windows/control.h"
+#include "windows/strings.h"
 
 namespace tombrello::windows {
 
@@ -18,6 +19,7 @@ class Field : public Control {
   HWND window() const override { return edit_; }
   void fit(const Area& area, const TableView& table) override;
   void set_text(const std::string& text);
+  void set_name(const std::string& name) { name_ = wide(name); }
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
@@ -34,6 +36,8 @@ class Field : public Control {
   WindowEvents& events_;
   HWND edit_;
   bool putting_ = false;
+  std::wstring name_;  ///< what assistive technology calls it
+  bool described_ = false;
 };
 
 }  // namespace tombrello::windows

@@ -1,7 +1,11 @@
 #include "windows/native_window.h"
 
-#include <stdexcept>
+#include <oleacc.h>
 
+#include <stdexcept>
+#include <utility>
+
+#include "windows/accessible_words.h"
 #include "windows/resources.h"
 
 namespace tombrello::windows {
@@ -37,6 +41,10 @@ LRESULT NativeWindow::message(UINT message, WPARAM w, LPARAM l) {
   return DefWindowProcW(handle_, message, w, l);
 }
 
+void NativeWindow::read_out() const {
+  NotifyWinEvent(EVENT_SYSTEM_ALERT, handle_, OBJID_CLIENT, CHILDID_SELF);
+}
+
 LRESULT CALLBACK NativeWindow::procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
   if (message == WM_NCCREATE) {
     auto* self = static_cast<NativeWindow*>(reinterpret_cast<CREATESTRUCTW*>(l)->lpCreateParams);
@@ -45,6 +53,10 @@ LRESULT CALLBACK NativeWindow::procedure(HWND window, UINT message, WPARAM w, LP
   }
   auto* self = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcW(window, message, w, l);
+  const bool asked = message == WM_GETOBJECT && static_cast<LONG>(l) == OBJID_CLIENT;
+  if (asked && self->alert_ && !std::exchange(self->described_, true)) {
+    describe(window, {}, ROLE_SYSTEM_ALERT);
+  }
   const LRESULT answer = self->message(message, w, l);
   if (message == WM_NCDESTROY) self->handle_ = nullptr;
   return answer;

@@ -21,11 +21,16 @@ class NativeWindow {
   void create(const wchar_t* kind, DWORD style, HWND parent);
   /// Must not throw: the system stands between it and whoever serves events.
   virtual LRESULT message(UINT message, WPARAM w, LPARAM l);
+  /// It is something to be read out, as its text stands whenever `read_out` is called.
+  void be_alert() { alert_ = true; }
+  void read_out() const;
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l);
 
   HWND handle_ = nullptr;
+  bool alert_ = false;
+  bool described_ = false;
 };
 
 inline RECT to_rect(const painting::PixelRect& rect) {

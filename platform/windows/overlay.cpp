@@ -32,6 +32,12 @@ void Overlay::add_field(ControlId field, FieldRule rule, const Font& font) {
   add(field, std::make_unique<Field>(field, rule, font, table_, events_));
 }
 
+void Overlay::name_field(ControlId field, const std::string& name) {
+  Placed* placed = find(field);
+  if (placed == nullptr) return;
+  if (auto* line = dynamic_cast<Field*>(placed->control.get())) line->set_name(name);
+}
+
 void Overlay::add_shape(ControlId shape, Colour colour) {
   add(shape, std::make_unique<ShapeControl>(colour, table_));
 }

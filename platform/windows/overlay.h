@@ -17,6 +17,7 @@ class Overlay {
   void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
                  long back_colour);
   void add_field(ControlId field, FieldRule rule, const Font& font);
+  void name_field(ControlId field, const std::string& name);
   void add_shape(ControlId shape, Colour colour);
   void add_picture(ControlId control, Picture picture);
 

@@ -45,6 +45,7 @@ Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_
   for (std::size_t i = 0; i < lines.size(); ++i) lines_.push_back({lines[i], is_heading(lines, i)});
   create(L"TombrelloPanel", kControlStyle | WS_BORDER, table.handle());
   SetWindowTextW(handle(), wide(text).c_str());  // for those who have it read to them
+  be_alert();
 }
 
 int Panel::lay_out(HDC dc, int width, int top, bool draw) const {
@@ -95,7 +96,9 @@ void Panel::fit(const Area& area, const TableView& table) {
 }
 
 void Panel::shown(bool visible) {
-  if (visible) scroll_to(0);
+  if (!visible) return;
+  scroll_to(0);
+  read_out();
 }
 
 void Panel::scroll_to(int top) {

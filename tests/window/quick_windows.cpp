@@ -151,7 +151,7 @@ void CALLBACK on_time(HWND, UINT, UINT_PTR, DWORD) {
 int wmain(int argc, wchar_t** argv) {
   using namespace tombrello;
   using namespace tombrello::windows;
-  if (argc != 5) return 2;
+  if (argc != 5 && argc != 6) return 2;
   _setmode(_fileno(stdout), _O_BINARY);
   Desktop desktop(art::draw_picture);
   const std::wstring folder = whole_path(argv[1]);
@@ -159,6 +159,8 @@ int wmain(int argc, wchar_t** argv) {
   CountingClock clock(std::wcstoull(argv[2], nullptr, 10));
   const State* state = nullptr;
   QuickTimer timer(desktop.timer(), [&] {
+    const bool reshuffle = texts(desktop.window().surface()).find("Rimescolo") != std::string::npos;
+    if (argc == 6 && (reshuffle || state->phase == Phase::open_hands)) return _wtoi(argv[5]);
     return _wtoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]);
   });
   Program program({desktop.window(), timer, archive, clock, desktop.wave(), desktop.sequencer(),
