@@ -392,6 +392,16 @@ void DesktopSession::lose_screen() {
   screen_->waitForFinished(5000);
 }
 
+// Wine itself complains of a computer without a sequencer.
+std::string DesktopSession::said() const {
+  std::string all;
+  std::istringstream lines(err);
+  for (std::string line; std::getline(lines, line);) {
+    if (kWindows == nullptr || !line.starts_with("ALSA lib seq.c")) all += line + '\n';
+  }
+  return all;
+}
+
 void DesktopSession::expect_quiet_end(Milliseconds most) {
   const auto asked = Clock::now();
   ASSERT_TRUE(game->waitForFinished(kPatience * 10000)) << "it goes on";
@@ -401,7 +411,7 @@ void DesktopSession::expect_quiet_end(Milliseconds most) {
   EXPECT_EQ(game->exitStatus(), QProcess::NormalExit);
   EXPECT_EQ(game->exitCode(), 0);
   listen(0);
-  EXPECT_EQ(err, "");
+  EXPECT_EQ(said(), "");
   std::istringstream lines(out);
   for (std::string line; std::getline(lines, line);) {
     EXPECT_NE(line.find('\t'), std::string::npos) << line;
@@ -411,7 +421,7 @@ void DesktopSession::expect_quiet_end(Milliseconds most) {
 void DesktopSession::expect_still_running() {
   listen(0);
   EXPECT_EQ(game->state(), QProcess::Running);
-  EXPECT_EQ(err, "");
+  EXPECT_EQ(said(), "");
 }
 
 std::string DesktopSession::file(const std::string& name) const {

@@ -130,6 +130,7 @@ class DesktopSession : public ::testing::Test {
   std::unique_ptr<QProcess> launch(const std::vector<std::string>& words);
   void listen(int milliseconds);
   void read_view();
+  std::string said() const;  ///< on standard error, by the game
   void start_screen();
   void prepare_wine();
   static std::vector<std::string> under_wine(std::vector<std::string> words);
