@@ -8,7 +8,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "windows/strings.h"
 
@@ -23,6 +25,8 @@ void check(bool holds, const std::string& what) {
 void wait_until(const std::string& what, const std::function<bool()>& holds) {
   for (int tries = 0; tries < 400; ++tries) {
     if (holds()) return;
+    MSG next;
+    while (PeekMessageW(&next, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&next);  // news come so
     Sleep(100);
   }
   check(false, "in vain waited for " + what);
@@ -43,6 +47,12 @@ void wait_for_line(const std::string& part) {
     GetWindowTextW(child_of_the_frame(L"TombrelloLine"), told, 300);
     return has(tombrello::windows::utf8(told), part);
   });
+}
+
+std::set<std::pair<DWORD, LONG>> news;  // of windows of the game: what happened to which child
+
+void CALLBACK note(HWINEVENTHOOK, DWORD event, HWND, LONG, LONG child, DWORD, DWORD) {
+  news.insert({event, child});
 }
 
 VARIANT number(LONG value) {
@@ -116,10 +126,11 @@ class Table {
 int main() {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   const Table table;
+  SetWinEventHook(EVENT_MIN, EVENT_MAX, nullptr, note, 0, 0, WINEVENT_OUTOFCONTEXT);
   check(table.name(CHILDID_SELF) == "Tavolo", "the table has no name");
   table.press(table.find("Tombrello: fai clic"));
-  for (const char* seat : {"OVEST", "NORD", "EST", "TU"}) {
-    wait_for_line(std::string("carta di ") + seat);
+  for (const char* whose : {"carta di OVEST", "carta di NORD", "carta di EST", "tua carta"}) {
+    wait_for_line(whose);
     table.press(table.find("Mazzo"));
   }
   wait_for_line("Tocca a te");
@@ -131,10 +142,15 @@ int main() {
   table.select(third, SELFLAG_ADDSELECTION);
   wait_until("its selection", [&] { return table.name(third) == name + ", scelta"; });
   check(table.selected(third), "it isn't selected");
+  wait_until("word of its selection", [&] {
+    return news.contains({EVENT_OBJECT_STATECHANGE, third});
+  });
   table.select(third, SELFLAG_REMOVESELECTION);
   wait_until("its lowering", [&] { return table.name(third) == name; });
   check(!table.selected(third), "it is selected");
+  news.clear();
   table.press(third);
   wait_for_line("OVEST");
+  wait_until("word of the line", [] { return news.contains({EVENT_SYSTEM_ALERT, 0}); });
   std::printf("drawn, selected, lowered, discarded: %s\n", name.c_str());
 }
