@@ -71,6 +71,8 @@ void add_cradle_fingers(Figure& f, const Look& look) {
       "-0.6 C3 -2.6 3.7 -3.4 4.6 -3.2 C6 -2.8 5.9 -0.6 5.3 1 C4.6 3.2 3.9 5 3.8 8.6 L-2.8 8.6 "
       "C-2.8 5.4 -4.8 3.6 -5.6 0.6 Z",
       look.skin);
+  // The thumb grows out of the same hand.
+  f.plain("M-6 0.2 C-6 -1 -5.5 -1.9 -4.7 -2 L-4 0.6 L-4.8 2 Z", look.skin);
   f.line("M-2.9 -0.6 L-2.4 2 M0 -0.8 L0.1 1.8 M2.8 -0.6 L2.5 1.8", 0.55F, kInk);
   f.plain("M4.8 1 C4.2 3.2 3.5 5 3.4 8.2 L1.4 8.2 C1.6 5 3.4 3.4 4.8 1 Z", look.shade);
 }
