@@ -1,7 +1,6 @@
 #include "qt/controls.h"
 
 #include <QFontMetrics>
-#include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -43,6 +42,25 @@ void set_headings_off(QTextDocument& document) {
     QTextCursor cursor(line);
     cursor.select(QTextCursor::BlockUnderCursor);
     cursor.mergeCharFormat(bold);
+  }
+}
+
+QAbstractSlider::SliderAction scrolling_by(int key) {
+  switch (key) {
+    case Qt::Key_Up:
+      return QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Down:
+      return QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_PageUp:
+      return QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_PageDown:
+      return QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_Home:
+      return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+      return QAbstractSlider::SliderToMaximum;
+    default:
+      return QAbstractSlider::SliderNoAction;
   }
 }
 
@@ -100,18 +118,11 @@ void Panel::mouseReleaseEvent(QMouseEvent* event) {
 
 // It takes no keyboard: while it shows, those keys of the table that scroll are its.
 bool Panel::eventFilter(QObject* table, QEvent* event) {
-  static const QHash<int, QAbstractSlider::SliderAction> kScrolling = {
-      {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},
-      {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
-      {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
-      {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
-      {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
-      {Qt::Key_End, QAbstractSlider::SliderToMaximum}};
   if (event->type() != QEvent::KeyPress || !isVisible())
     return QTextEdit::eventFilter(table, event);
-  const auto action = kScrolling.find(static_cast<QKeyEvent*>(event)->key());
-  if (action == kScrolling.end()) return false;
-  verticalScrollBar()->triggerAction(*action);
+  const auto action = scrolling_by(static_cast<QKeyEvent*>(event)->key());
+  if (action == QAbstractSlider::SliderNoAction) return false;
+  verticalScrollBar()->triggerAction(action);
   return true;
 }
 

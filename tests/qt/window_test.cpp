@@ -170,6 +170,8 @@ TEST_F(WindowTest, APanelGrowsAndThenScrollsSoThatNothingIsLost) {
     // Only the smallest window has too little room for all of it.
     EXPECT_EQ(hidden > 0, size.width() == 400) << size.width();
     EXPECT_EQ(panel.verticalScrollBar()->maximum(), std::max(hidden, 0)) << size.width();
+    QTest::keyClick(&window_.table(), Qt::Key_End);
+    EXPECT_EQ(panel.verticalScrollBar()->value(), std::max(hidden, 0)) << "by key";
   }
 }
 
