@@ -54,7 +54,7 @@ int Hands::first_slot_with(int seat, int first_pack_code) const {
   for (int k = 1; k <= s_.n_mano[seat]; ++k) {
     if (first_pack_twin(mano[k]) == first_pack_code) return k;
   }
-  assert(!"the hand holds the card");
+  assert(false && "the hand holds the card");
   return 0;
 }
 
