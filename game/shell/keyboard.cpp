@@ -1,9 +1,14 @@
+#include <utility>
+
 #include "shell/program.h"
 
 namespace tombrello {
 
 void Program::before_wait() {
   mark_.refresh();
+  if (!trouble_.empty() && !pacing_.is_pausing()) {
+    chronicle_.remark(std::exchange(trouble_, {}));
+  }
   chronicle_.show(mark_.by_keys());
 }
 

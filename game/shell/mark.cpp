@@ -1,5 +1,6 @@
 #include "shell/mark.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -22,6 +23,7 @@ void Mark::pointer_moved(float x, float y) {
   by_keys_ = false;
   spot_.reset();
   own_card_ = 0;
+  on_melds_ = awaits_key_ = false;
   at_ = {x, y};
   mark_under_pointer();
 }
@@ -60,15 +62,26 @@ void Mark::refresh() {
 
 // A card stays marked while it rises and sinks. From elsewhere the mark comes into the hand at its
 // last card, which is the one just drawn.
+// When cards were laid or refused it goes out: the same key once more would discard.
 void Mark::mark_again() {
-  spot_ = nearest();
+  if (on_melds_ && !still_acts(*shown_)) {
+    on_melds_ = false;
+    awaits_key_ = true;
+  }
+  spot_ = awaits_key_ ? std::nullopt : nearest();
   if (!spot_) return show(std::nullopt);
   if (own_card_ > 0 || spots_[*spot_].own_card > 0) {
     const auto card = own_card(own_card_ > 0 ? own_card_ : kHandSlots);
     if (card) spot_ = card;
   }
   own_card_ = spots_[*spot_].own_card;
+  on_melds_ = spots_[*spot_].on_melds;
   show(spots_[*spot_].told.area);
+}
+
+bool Mark::still_acts(const Area& area) const {
+  return std::any_of(spots_.begin(), spots_.end(),
+                     [&](const Spot& spot) { return spot.acts() && spot.told.area == area; });
 }
 
 std::optional<std::size_t> Mark::nearest() const {
@@ -94,13 +107,15 @@ std::optional<std::size_t> Mark::own_card(int slot) const {
 void Mark::choose(std::size_t spot) {
   spot_ = spot;
   own_card_ = spots_[spot].own_card;
+  on_melds_ = spots_[spot].on_melds;
   at_ = any_point(spots_[spot]);
   show(spots_[spot].told.area);
 }
 
 void Mark::move(Key key) {
   spots_ = places_.spots();
-  if (!std::exchange(by_keys_, true)) {  // shows where the keys begin
+  const bool waited = std::exchange(awaits_key_, false);
+  if (!std::exchange(by_keys_, true) || waited) {  // shows where the keys begin
     if (const auto spot = nearest()) choose(*spot);
     return;
   }

@@ -29,6 +29,7 @@ class Mark {
  private:
   void mark_under_pointer();
   void mark_again();
+  bool still_acts(const Area& area) const;
   std::optional<std::size_t> nearest() const;
   std::optional<std::size_t> own_card(int slot) const;
   void choose(std::size_t spot);
@@ -44,6 +45,8 @@ class Mark {
   PressPoint at_{-1, -1};            ///< of the pointer, or of the marked place
   std::optional<std::size_t> spot_;  ///< the marked place, with the keys
   int own_card_ = 0;                 ///< its slot, if it is a card of the player's
+  bool on_melds_ = false;            ///< it is a meld, or where one can be laid
+  bool awaits_key_ = false;          ///< nothing is marked until a key moves
   std::optional<Area> shown_;
 };
 

@@ -80,7 +80,7 @@ void Program::tell_missing_package() {
   const std::string package = sequencer_.missing_package();
   if (package.empty() || has_told_package_) return;
   has_told_package_ = true;
-  chronicle_.remark("Per sentire la musica installa il pacchetto " + package);
+  trouble_ = "Per sentire la musica installa il pacchetto " + package;
 }
 
 void Program::menu_replay_Click() {

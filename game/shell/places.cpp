@@ -78,6 +78,7 @@ void Places::add_melds_of(Spots& spots, int seat) const {
     add(spots,
         meld_name(cards_of(s_.calate[seat], meld)) + ", " + whose + ", " + cards_word(meld.cards()),
         span(g_.strip_card(seat, meld.first), g_.strip_card(seat, meld.last)));
+    spots.back().on_melds = true;
   }
 }
 
@@ -94,21 +95,24 @@ void Places::add_band(Spots& spots, int side) const {
   const Place band = g_.band_for_pointer(side);
   if (!point_for(Button::left, band)) return;
   add(spots, side == 1 ? "Cala dalla tua parte" : "Cala dalla parte di " + name_of(side), band);
+  spots.back().on_melds = true;
 }
 
 void Places::add_own_hand(Spots& spots) const {
   for (int k = 1; k <= s_.n_mano[1]; ++k) {
     const int entry = s_.mano[1][k];
     const bool selected = entry > kSelected;
+    const Place card = g_.hand_card_seen(k, s_.n_mano[1], selected);
     add(spots,
         long_name(entry % kSelected) + ", " + ordinal(k) + " della tua mano" +
             (selected ? ", scelta" : ""),
-        g_.hand_card_seen(k, s_.n_mano[1], selected));
+        card);
     Spot& spot = spots.back();
     spot.own_card = k;
     spot.told.selected = selected;
-    // With cards selected a left press on any of the fan lowers them all.
-    if (!spot.press && spot.select) spot.press = spot.select;
+    // With cards selected a left press on any of the fan lowers them all, but for a raised one's
+    // upper part, where it would lay.
+    if (!spot.press) spot.press = point_for(Button::left, card, Pointer::Act::lower);
     spot.told.can_press = spot.press.has_value();
   }
 }
@@ -122,14 +126,16 @@ void Places::add_scores(Spots& spots) const {
 
 // The zones are odd and change with the size of cards: a point is looked for, from the middle of
 // what is painted outward, where a press means this very place.
-std::optional<PressPoint> Places::point_for(Button button, const Place& place) const {
+std::optional<PressPoint> Places::point_for(Button button, const Place& place,
+                                            Pointer::Act wanted) const {
   constexpr std::array kParts = {0.5F, 0.3F, 0.7F, 0.15F, 0.85F, 0.05F, 0.95F};
   for (const float down : kParts) {
     for (const float across : kParts) {
       const PressPoint point{place.left + across * (place.right - place.left),
                              place.top + down * (place.bottom - place.top)};
       const auto meaning = pointer_.meaning(button, point.x, point.y);
-      if (meaning.act != Pointer::Act::none && meaning.place == place) return point;
+      if (meaning.act == Pointer::Act::none) continue;
+      if (meaning.act == wanted || meaning.place == place) return point;
     }
   }
   return std::nullopt;

@@ -19,6 +19,7 @@ struct PressPoint {
 struct Spot {
   TablePlace told;
   int own_card = 0;                  ///< its slot, for a card of seat 1's hand
+  bool on_melds = false;             ///< a meld, or where one can be laid
   std::optional<PressPoint> press;   ///< for the left button
   std::optional<PressPoint> select;  ///< for the right button
   bool acts() const { return press || select; }
@@ -45,7 +46,9 @@ class Places {
   void add_scores(Spots& spots) const;
   std::string name_of(int seat) const { return s_.nomi[static_cast<std::size_t>(seat - 1)]; }
   Place hand_of(int seat) const;
-  std::optional<PressPoint> point_for(Button button, const Place& place) const;
+  /// Where within a place a press acts on just this place, or has the wanted act.
+  std::optional<PressPoint> point_for(Button button, const Place& place,
+                                      Pointer::Act wanted = Pointer::Act::none) const;
 
   const State& s_;
   const Geometry& g_;

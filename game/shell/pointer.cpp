@@ -105,17 +105,26 @@ void Pointer::tell_why_nothing_happens(float x, float y) {
   if (s_.phase != Phase::hand || s_.azione != kNoAction) return;
   const int cards = s_.n_mano[1];
   const bool raised = s_.mano[1][cards] > kSelected;
-  if (g_.hand_card(cards, raised).holds(x, y)) return chronicle_.remark(kLeftPart);
+  if (x > g_.fan(cards).right && g_.hand_card(cards, raised).holds(x, y)) {
+    return chronicle_.remark(kLeftPart);
+  }
   if (g_.pile().holds(x, y) || g_.stock().holds(x, y)) return chronicle_.remark(kHasDrawn);
   if (count_selected() != 1) return;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    const bool own = seat % 2 == 1;
-    for (const Meld meld : melds_of(s_, seat)) {
-      for (int k = meld.first; k <= meld.last; ++k) {
-        if (g_.strip_card(seat, k).holds(x, y)) chronicle_.remark(own ? kLowerHalf : kOthersMeld);
-      }
+    if (!is_on_strip(seat, x, y)) continue;
+    if (seat % 2 == 0) return chronicle_.remark(kOthersMeld);
+    const Place band = g_.band_for_pointer(seat);
+    if (y < band.top && band.left <= x && x <= band.right) chronicle_.remark(kLowerHalf);
+  }
+}
+
+bool Pointer::is_on_strip(int seat, float x, float y) const {
+  for (const Meld meld : melds_of(s_, seat)) {
+    for (int k = meld.first; k <= meld.last; ++k) {
+      if (g_.strip_card(seat, k).holds(x, y)) return true;
     }
   }
+  return false;
 }
 
 void Pointer::Form_MouseMove(float x, float y) {

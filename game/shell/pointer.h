@@ -54,6 +54,7 @@ class Pointer {
   void press_on_melds(float x, float y);
   void tell_to_draw_first();
   void tell_why_nothing_happens(float x, float y);
+  bool is_on_strip(int seat, float x, float y) const;
   Meaning right_press(float x, float y) const;
   Meaning left_press(float x, float y) const;
   Meaning press_on_side(int side, float x) const;

@@ -24,7 +24,7 @@ Pointer::Meaning Pointer::left_press(float x, float y) const {
   if (names_.is_open() && NamesDialog::confirm_button().holds(x, y)) {
     return {Act::confirm_names, NamesDialog::confirm_button()};
   }
-  if (s_.phase == Phase::draw && g_.dealer_deck().holds(x, y)) {
+  if (s_.azione == kDealerDraw && g_.dealer_deck().holds(x, y)) {
     return {Act::draw_for_dealer, g_.dealer_deck()};
   }
   if (!waits_for_press()) return {};

@@ -100,7 +100,7 @@ void Program::field_confirmed(ControlId) {
 // There is one, of a tie in the draw for dealer.
 void Program::message(const std::string& text) {
   chronicle_.remark("Parità tra le carte più alte: si ripete");
-  chronicle_.show();
+  chronicle_.show(mark_.by_keys());
   window_.message_box(text, Buttons::ok);
 }
 
@@ -110,7 +110,7 @@ void Program::Set_Write() {
   const std::string complaint = settings_.complaint();
   if (complaint.empty() || has_complained_) return;
   has_complained_ = true;
-  chronicle_.remark(complaint);
+  trouble_ = complaint;
 }
 
 }  // namespace tombrello

@@ -112,6 +112,7 @@ class Program : public WindowEvents, public MediaEvents, public Shell {
   Music music_;
   Rules rules_;
   MediaControl& sequencer_;
+  std::string trouble_;          ///< to be told when the game next waits for the player
   bool has_complained_ = false;  ///< that settings can't be kept
   bool has_told_package_ = false;
 };

@@ -1,6 +1,7 @@
 #include "told/chronicle.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "match/dead_hand.h"
 #include "told/card_names.h"
@@ -30,14 +31,13 @@ Chronicle::Moment Chronicle::moment() const {
           s_.n_mano[1],
           s_.numero_mano,
           selected_cards(s_),
-          by_keys_ ? 1 : 0,
           has_discarded_ ? 1 : 0};
 }
 
 void Chronicle::show(bool by_keys) {
-  by_keys_ = by_keys;
+  const bool reworded = std::exchange(by_keys_, by_keys) != by_keys;
   const Moment now_is = moment();
-  if (now_is == shown_ && !changed_) return;
+  if (now_is == shown_ && !changed_ && !reworded) return;
   if (now_is != shown_ && !changed_) remark_.clear();  // it was about the moment before
   shown_ = now_is;
   changed_ = false;
@@ -58,12 +58,14 @@ std::string Chronicle::now() const {
     case Phase::opening:
       return "Fai clic per cominciare";
     case Phase::draw:
-      if (s_.azione == kNoAction) return "Il cartaro " + dealer();
-      return "Scelta del cartaro: fai clic sul mazzo per la " +
+      if (s_.azione != kDealerDraw) return "Il cartaro " + dealer();
+      return std::string("Scelta del cartaro: ") +
+             (by_keys_ ? "Invio sul mazzo" : "fai clic sul mazzo") + " per la " +
              (s_.di_turno == 1 ? "tua carta" : "carta di " + name_of(s_.di_turno));
     case Phase::deal:
       return s_.cartaro == 1 ? "Dai tu le carte" : name_of(s_.cartaro) + " dà le carte";
     case Phase::hand:
+      if (s_.di_turno == 1 && s_.n_mano[1] == 0) return "Hai chiuso la mano";
       if (s_.di_turno == 1 && !has_discarded_) return own_turn();
       return others_turn(has_discarded_ ? next_seat(1) : s_.di_turno);
     case Phase::open_hands:
@@ -89,22 +91,23 @@ std::string Chronicle::own_turn() const {
     return by_keys_ ? "Ultima carta: con Invio la scarti e chiudi"
                     : "Ultima carta: fai clic per scartarla e chiudere";
   }
-  switch (selected_cards(s_)) {
-    case 0:
-      return by_keys_ ? "Scarta (Invio) o seleziona le carte da calare (barra spaziatrice)"
-                      : "Scarta (clic) o seleziona le carte da calare (tasto destro)";
-    case 1:
-      if (s_.n_calate[1] + s_.n_calate[3] == 0) return "Selezionane almeno altre due per calare";
-      return by_keys_
-                 ? "Attaccala a una vostra combinazione (Invio) o selezionane altre due"
-                 : "Attaccala (clic sulla metà bassa di una combinazione) o selezionane altre due";
-    case 2:
-      return "Selezionane almeno un'altra per calare";
-    default:
-      return by_keys_ ? "Cala: Invio nel riquadro sopra la tua mano o davanti al compagno"
-                      : "Cala: fai clic sopra la tua mano, dove appare la freccia, o davanti al "
-                        "compagno";
+  const int selected = selected_cards(s_);
+  if (selected == 0) {
+    return by_keys_ ? "Scarta (Invio) o seleziona le carte da calare (barra spaziatrice)"
+                    : "Scarta (clic) o seleziona le carte da calare (tasto destro)";
   }
+  if (selected >= 3) {
+    return by_keys_
+               ? "Cala: Invio nel riquadro sopra la tua mano o davanti al compagno"
+               : "Cala: fai clic sopra la tua mano, dove appare la freccia, o davanti al compagno";
+  }
+  const bool can_add = selected == 1 && s_.n_calate[1] + s_.n_calate[3] > 0;
+  const std::string add = by_keys_ ? "Attaccala a una vostra combinazione (Invio)"
+                                   : "Attaccala (clic sulla metà bassa di una combinazione)";
+  if (s_.n_mano[1] < 3) return can_add ? add : "Per calare servono almeno tre carte";
+  if (can_add) return add + " o selezionane altre due";
+  return selected == 1 ? "Selezionane almeno altre due per calare"
+                       : "Selezionane almeno un'altra per calare";
 }
 
 std::string Chronicle::others_turn(int seat) const {
@@ -179,6 +182,7 @@ void Chronicle::added(int seat, int, int card) {
 // With the player's own discard a new round of the others begins.
 void Chronicle::discarded(int seat, int card) {
   if (seat == 1) {
+    remark_.clear();
     begin_round();
     has_discarded_ = true;
   }

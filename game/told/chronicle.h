@@ -19,7 +19,7 @@ class Chronicle : public Events {
 
   /// Shows the line as it stands, for hands on the mouse or on the keys. Called before each wait;
   /// quick when nothing has changed.
-  void show(bool by_keys = false);
+  void show(bool by_keys);
   /// A sentence that stands until the game goes on: what the pointer refused, or a trouble of
   /// the program.
   void remark(const std::string& sentence);
@@ -37,7 +37,7 @@ class Chronicle : public Events {
 
  private:
   /// All that the left part depends on, but for the remark.
-  using Moment = std::array<int, 8>;
+  using Moment = std::array<int, 7>;
   Moment moment() const;
 
   void begin_round();

@@ -12,10 +12,11 @@ namespace tombrello::devices {
 inline constexpr int kMostTakes = 9;
 
 /// `take` 1..kMostTakes; the file's name has an ending.
-inline std::string take_file(std::string file, int take) {
+inline std::string take_file(const std::string& file, int take) {
   assert(take >= 1 && take <= kMostTakes && file.find('.') != file.npos);
-  if (take > 1) file.insert(file.rfind('.'), '-' + std::to_string(take));
-  return file;
+  if (take == 1) return file;
+  const std::size_t ending = file.rfind('.');
+  return file.substr(0, ending) + '-' + std::to_string(take) + file.substr(ending);
 }
 
 /// Any of `count` takes but the one heard last, each as likely; both count from 0.

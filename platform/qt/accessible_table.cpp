@@ -1,6 +1,7 @@
 #include "qt/accessible_table.h"
 
 #include <QAccessibleActionInterface>
+#include <QApplication>
 #include <map>
 
 namespace tombrello::qt {
@@ -60,6 +61,7 @@ class AccessiblePlace : public QAccessibleInterface, public QAccessibleActionInt
     return names;
   }
   void doAction(const QString& action) override {
+    if (QApplication::activeModalWidget() != nullptr) return;  // a box stands over the table
     table_.press_place(index_, action == toggleAction() ? Button::right : Button::left);
   }
   QStringList keyBindingsForAction(const QString&) const override { return {}; }

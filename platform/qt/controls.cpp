@@ -9,6 +9,7 @@
 #include <QTextCursor>
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include "qt/accessible_notice.h"
 #include "qt/canvas.h"
@@ -94,8 +95,10 @@ Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_
 void Panel::fit(const Area& area, const TableGeometry& geometry) {
   QRect place = geometry.widget_rect(geometry.pixels(area));
   const int lowest = geometry.widget_rect(geometry.table()).bottom();
-  document()->setTextWidth(std::max(1, place.width() - 2 * frameWidth()));
-  const int needed = static_cast<int>(std::ceil(document()->size().height())) + 2 * frameWidth();
+  // On a copy: the one that shows stays as wide as its scroll bar leaves it.
+  const std::unique_ptr<QTextDocument> measured(document()->clone());
+  measured->setTextWidth(std::max(1, place.width() - 2 * frameWidth()));
+  const int needed = static_cast<int>(std::ceil(measured->size().height())) + 2 * frameWidth();
   if (needed > place.height()) place.setBottom(std::min(lowest, place.top() + needed - 1));
   const bool all = place.height() >= needed;
   setVerticalScrollBarPolicy(all ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);

@@ -157,9 +157,14 @@ HRESULT AccessibleTable::get_accDefaultAction(VARIANT child, BSTR* action) {
   return S_OK;
 }
 
+bool AccessibleTable::is_under_a_box() const {
+  return IsWindowEnabled(GetAncestor(table_, GA_ROOT)) == FALSE;
+}
+
 HRESULT AccessibleTable::accDoDefaultAction(VARIANT child) {
   const TablePlace* const here = place(child);
   if (here == nullptr || !(here->can_press || here->can_select)) return DISP_E_MEMBERNOTFOUND;
+  if (is_under_a_box()) return E_ACCESSDENIED;
   events_.place_pressed(static_cast<int>(child.lVal) - 1,
                         here->can_press ? Button::left : Button::right);
   return S_OK;
@@ -170,6 +175,7 @@ HRESULT AccessibleTable::accSelect(LONG how, VARIANT child) {
   const bool adds = how == SELFLAG_ADDSELECTION;
   if (here == nullptr || (!adds && how != SELFLAG_REMOVESELECTION)) return E_INVALIDARG;
   if (here->selected == adds) return S_OK;
+  if (is_under_a_box()) return E_ACCESSDENIED;
   if (!here->can_select) return DISP_E_MEMBERNOTFOUND;
   events_.place_pressed(static_cast<int>(child.lVal) - 1, Button::right);
   return S_OK;

@@ -65,6 +65,7 @@ class AccessibleTable final : public IAccessible {
 
   static HRESULT none(BSTR* text) { return *text = nullptr, S_FALSE; }
   bool answers(const VARIANT& child) const;  ///< it is the table or a place
+  bool is_under_a_box() const;               ///< which takes all presses
   const TablePlace* place(const VARIANT& child) const;
   RECT area_of(const TablePlace& place) const;  ///< on the screen
   void tell(DWORD event, std::size_t place) const;

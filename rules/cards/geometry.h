@@ -59,7 +59,7 @@ struct Geometry {
 
   // Hands; k from 1.
   Place hand_card(int k, bool raised) const;  ///< of seat 1
-  /// What is seen of it among so many: the next card covers all but a step.
+  /// What is seen of it among so many, in one row: the next card covers all but a step.
   Place hand_card_seen(int k, int cards, bool raised) const;
   Place hand_box() const;                  ///< erases seat 1's hand, raised cards too
   Place back(int seat, int k) const;       ///< seats 2..4

@@ -88,9 +88,16 @@ TEST(Golden, OneMatchIsSeenAsItWas) {
   const std::string file = TOMBRELLO_ROOT "/tests/game/golden.txt";
   const std::string text = played(196) + at_four_fifths(196);
   if (std::getenv("TOMBRELLO_RENEW") != nullptr) std::ofstream(file) << text;
-  std::ostringstream golden;
-  golden << std::ifstream(file).rdbuf();
-  EXPECT_EQ(text, golden.str());
+  std::ifstream golden(file);
+  std::istringstream seen(text);
+  std::string wanted;
+  int number = 0;
+  for (std::string line; std::getline(seen, line);) {
+    ++number;
+    ASSERT_TRUE(std::getline(golden, wanted)) << "more than is told: " << line;
+    ASSERT_EQ(line, wanted) << "line " << number;
+  }
+  EXPECT_FALSE(std::getline(golden, wanted)) << "no more: " << wanted;
 }
 
 }  // namespace

@@ -25,11 +25,11 @@ class ChronicleTest : public testing::Test {
     s_.di_turno = 2;
   }
   std::string now() {
-    chronicle_.show();
+    chronicle_.show(false);
     return window_.told_now;
   }
   std::string then() {
-    chronicle_.show();
+    chronicle_.show(false);
     return window_.told_then;
   }
 
@@ -217,8 +217,13 @@ TEST(Keys, MarkTheCardDrawnAndStayOnACard) {
   game.then([&] {
     EXPECT_GT(game.s().mano[1][12], kSelected) << "two to the left of the last";
     EXPECT_EQ(window.told_now, "Selezionane almeno altre due per calare");
+    window.key(Key::enter);
+  });
+  game.then([&] {
+    EXPECT_TRUE(window.told_now.starts_with("Le carte selezionate sono tornate giù"));
     window.key(Key::space);
   });
+  key(Key::space);
   key(Key::help);
   key(Key::enter);
   game.then([&] {
@@ -226,6 +231,31 @@ TEST(Keys, MarkTheCardDrawnAndStayOnACard) {
     EXPECT_EQ(game.s().n_mano[1], 14) << "the panel took the key, and no card went";
     EXPECT_LT(game.s().mano[1][12], kSelected);
     EXPECT_EQ(window.told_now, "Scarta (Invio) o seleziona le carte da calare (barra spaziatrice)");
+  });
+  game.play_to_end();
+}
+
+// Enter once more where three cards were refused would otherwise throw one away.
+TEST(Keys, MarkNothingAfterAProposal) {
+  Game game(7, kept_deal());
+  HeadlessWindow& window = game.window;
+  game.until_own_turn().then([&] { window.press(430, 300); });
+  for (const float x : {260.0F, 300.0F, 340.0F}) {
+    game.then([&, x] { window.press(x, 530, Button::right); });
+  }
+  game.then([&] { window.move(400, 470); }).then([&] { window.key(Key::up); });
+  game.then([&] {
+    EXPECT_TRUE(window.mark.has_value());
+    window.key(Key::enter);
+  });
+  game.then([&] {
+    EXPECT_FALSE(window.mark.has_value()) << window.told_now;
+    window.key(Key::enter);
+  });
+  game.then([&] {
+    EXPECT_EQ(game.s().n_mano[1], 14);
+    window.key(Key::next);
+    EXPECT_TRUE(window.mark.has_value());
   });
   game.play_to_end();
 }
