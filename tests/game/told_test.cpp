@@ -46,6 +46,9 @@ TEST_F(ChronicleTest, TellsWhatTheOthersDidSinceTheOwnDiscard) {
   chronicle_.laid(1, 1, some("2h 3h 4h"));
   chronicle_.discarded(1, 5);
   EXPECT_EQ(then(), "") << "the player's own deeds are known";
+  s_.di_turno = 1;
+  s_.n_mano[1] = 13;
+  EXPECT_EQ(now(), "Gioca OVEST") << "with the discard the own turn is over";
   chronicle_.drew(2, 35);
   chronicle_.laid(2, 2, some("6h 7h 8h"));
   chronicle_.discarded(2, 35);
@@ -58,6 +61,12 @@ TEST_F(ChronicleTest, TellsWhatTheOthersDidSinceTheOwnDiscard) {
   EXPECT_EQ(then(),
             "OVEST: Pozzo, cala 6♥ 7♥ 8♥, scarta 9♣ · NORD: Tallone, scarta A♥ · il Pozzo si "
             "rimescola · EST: Tallone, attacca 4♠, scarta 2♦");
+  chronicle_.reshuffled();
+  chronicle_.drew(4, 0);
+  EXPECT_TRUE(then().ends_with(" · il Pozzo si rimescola · EST: Tallone"));
+  chronicle_.discarded(1, 5);
+  chronicle_.drew(4, 0);
+  EXPECT_EQ(then(), "EST: Tallone");
   chronicle_.went_out(4);
   chronicle_.counted_double(2);
   EXPECT_TRUE(then().ends_with(" · EST chiude · punti raddoppiati per OVEST-EST"));
@@ -213,9 +222,17 @@ TEST(Keys, MarkTheCardDrawnAndStayOnACard) {
   const auto key = [&](Key struck) { game.then([&, struck] { window.key(struck); }); };
   game.until_own_turn();
   game.then([&] { window.move(400, 300); });
-  for (const Key each : {Key::left, Key::enter, Key::left, Key::left, Key::space}) key(each);
+  window.listening = true;
+  for (const Key each : {Key::left, Key::enter, Key::left, Key::left, Key::left}) key(each);
+  for (const Key each : {Key::right, Key::space}) key(each);
   game.then([&] {
     EXPECT_GT(game.s().mano[1][12], kSelected) << "two to the left of the last";
+    Lines places;
+    for (const TablePlace& place : window.places) places.push_back(place.name);
+    for (const char* hand : {"ADA, 13 carte", "PIA, 13 carte", "UGO, 10 carte",
+                             "Scala di quadri dal 7 al 9, di UGO, 3 carte"}) {
+      EXPECT_TRUE(has(places, hand)) << testing::PrintToString(places);
+    }
     EXPECT_EQ(window.told_now, "Selezionane almeno altre due per calare");
     window.key(Key::enter);
   });
@@ -271,6 +288,11 @@ TEST(Line, TellsWhyAPressDoesNothing) {
   said(300, 540, "Prima pesca: fai clic sul Pozzo o sul Tallone");
   game.then([&] { game.window.press(430, 300); });
   said(430, 300, "Hai già pescato: ora cala o scarta");
+  for (const float x : {260.0F, 300.0F}) {
+    game.then([&game, x] { game.window.press(x, 530, Button::right); });
+  }
+  game.then([&] { game.window.move(400, 440); });
+  said(400, 440, "Due carte da sole non si calano: ne servono almeno tre, o una per attaccarla");
   said(565, 540, "Dell'ultima carta risponde la parte sinistra: fai clic lì");
   game.play_to_end();
 }
