@@ -96,7 +96,10 @@ int Shot::pixel(int x, int y) const {
 std::unique_ptr<QProcess> DesktopSession::launch(const std::vector<std::string>& words) {
   auto process = std::make_unique<QProcess>();
   process->setProcessEnvironment(environment);
-  process->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+  process->setChildProcessModifier([] {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    signal(SIGINT, SIG_DFL);  // ignored by whatever a script starts in the background
+  });
   QStringList arguments;
   for (const auto& word : words) arguments << QString::fromStdString(word);
   const QString program = arguments.takeFirst();
