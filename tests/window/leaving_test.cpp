@@ -166,7 +166,9 @@ class LeavingFrom : public PlayingSession, public ::testing::WithParamInterface<
     EXPECT_EQ(game->exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(game->exitCode(), 1);
     const std::string said = game->readAllStandardError().toStdString();
-    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
+    // One line, or the X library's own where a request was under way.
+    const auto lines = std::count(said.begin(), said.end(), '\n');
+    EXPECT_TRUE(lines == 1 || said.find("XIO:") != said.npos) << said;
   }
 
   // The deal is kept whole, or was never kept.
