@@ -6,8 +6,7 @@
 
 namespace tombrello::qt {
 
-/// The drawing stretched to w by h pixels (1 or more each), anti-aliased, with premultiplied
-/// alpha; transparent where no shape covers.
+/// What `raster::rasterise` makes of a drawing, as an image of its own.
 QImage rasterise(const Drawing& drawing, int w, int h);
 
 }  // namespace tombrello::qt

@@ -128,6 +128,6 @@ for size in 1920/1080 3840/2160; do
   row "redraw of a fan, $at" "$(best table "redraw_fan/$size" real_time 1 us)"
   row "whole table, $at" "$(best table "whole_table/$size" real_time 1 us)"
   row "dealt card that takes the longest, $at" "$(best table "deal/$size" longest 1e3 ms)"
-  row "108 card pictures, $at" "$(best pictures "all_cards<raster::rasterise>/$high" real_time 1 ms)"
-  row "opening picture, $at" "$(best pictures "opening_picture<raster::rasterise>/$high" real_time 1 ms)"
+  row "108 card pictures, $at" "$(best pictures "all_cards/$high" real_time 1 ms)"
+  row "opening picture, $at" "$(best pictures "opening_picture/$high" real_time 1 ms)"
 done
