@@ -1,6 +1,7 @@
 #include "headless/headless_window.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <utility>
 
 namespace tombrello {
@@ -143,24 +144,39 @@ std::vector<EntryId> HeadlessWindow::entries(EntryId parent) const {
   return children;
 }
 
-void HeadlessWindow::add_control(ControlId control, std::string text, FieldRule rule) {
-  controls_.insert_or_assign(control, Control{{}, std::move(text), rule, false, ++highest_});
+namespace {
+
+std::string letters(const Font& font) {
+  char size[16];
+  std::snprintf(size, sizeof size, " %g", font.size);
+  return font.name + size;
 }
 
-void HeadlessWindow::add_panel(ControlId panel, const std::string& text, const Font&, long, long) {
-  add_control(panel, text);
+}  // namespace
+
+void HeadlessWindow::add_control(ControlId control, std::string text, std::string look,
+                                 FieldRule rule) {
+  controls_.insert_or_assign(
+      control, Control{{}, std::move(text), rule, "", std::move(look), false, ++highest_});
 }
 
-void HeadlessWindow::add_field(ControlId field, FieldRule rule, const Font&) {
-  add_control(field, "", rule);
+void HeadlessWindow::add_panel(ControlId panel, const std::string& text, const Font& font,
+                               long text_colour, long back_colour) {
+  add_control(
+      panel, text,
+      letters(font) + ' ' + std::to_string(text_colour) + " on " + std::to_string(back_colour));
 }
 
-void HeadlessWindow::add_shape(ControlId shape, Colour) {
-  add_control(shape, "");
+void HeadlessWindow::add_field(ControlId field, FieldRule rule, const Font& font) {
+  add_control(field, "", letters(font), rule);
+}
+
+void HeadlessWindow::add_shape(ControlId shape, Colour colour) {
+  add_control(shape, "", std::to_string(colour));
 }
 
 void HeadlessWindow::add_picture(ControlId control, Picture) {
-  add_control(control, "");
+  add_control(control, "", "");
 }
 
 void HeadlessWindow::set_visible(ControlId control, bool visible) {

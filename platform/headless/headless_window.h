@@ -108,6 +108,9 @@ class HeadlessWindow : public Window, public ScriptedPlayer {
   const std::string& caption(EntryId entry) const { return entries_.at(entry).caption; }
   const Area& area(ControlId control) const { return controls_.at(control).area; }
   const std::string& text(ControlId control) const { return controls_.at(control).text; }
+  const std::string& name(ControlId field) const { return controls_.at(field).name; }
+  /// Letters in points, colours as numbers.
+  const std::string& look(ControlId control) const { return controls_.at(control).look; }
   /// The visible control that lies over all others, 0 for none.
   ControlId front() const;
 
@@ -142,6 +145,9 @@ class HeadlessWindow : public Window, public ScriptedPlayer {
   void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
                  long back_colour) override;
   void add_field(ControlId field, FieldRule rule, const Font& font) override;
+  void name_field(ControlId field, const std::string& name) override {
+    controls_.at(field).name = name;
+  }
   void add_shape(ControlId shape, Colour colour) override;
   void add_picture(ControlId control, Picture picture) override;
   void place(ControlId control, const Area& area) override { controls_.at(control).area = area; }
@@ -162,11 +168,13 @@ class HeadlessWindow : public Window, public ScriptedPlayer {
     Area area;
     std::string text;
     FieldRule rule = nullptr;  // of a field
+    std::string name;          // of a field
+    std::string look;          // letters and colours, as they were told
     bool visible = false;
     int height = 0;  // above the table
   };
 
-  void add_control(ControlId control, std::string text, FieldRule rule = nullptr);
+  void add_control(ControlId control, std::string text, std::string look, FieldRule rule = nullptr);
 
   HeadlessTimer& timer_;
   WindowEvents* events_ = nullptr;

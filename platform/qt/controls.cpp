@@ -10,10 +10,10 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <new>
 
 #include "qt/accessible_notice.h"
 #include "qt/canvas.h"
-#include "qt/table_widget.h"
 #include "qt/text_style.h"
 #include "raster/rasteriser.h"
 
@@ -68,8 +68,8 @@ QAbstractSlider::SliderAction scrolling_by(int key) {
 }  // namespace
 
 Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_colour,
-             long back_colour, QWidget& parent, WindowEvents& events)
-    : QTextEdit(&parent), id_(id), events_(events) {
+             long back_colour, TableWidget& table, WindowEvents& events)
+    : QTextEdit(&table), Control(table), id_(id), events_(events) {
   make_notice(*this);
   setReadOnly(true);
   setTextInteractionFlags(Qt::NoTextInteraction);
@@ -89,11 +89,12 @@ Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_
   set_headings_off(*document());
   setCursor(Qt::ArrowCursor);
   viewport()->setCursor(Qt::ArrowCursor);
-  parent.installEventFilter(this);
+  table.installEventFilter(this);
 }
 
-void Panel::fit(const Area& area, const TableGeometry& geometry) {
-  QRect place = geometry.widget_rect(geometry.pixels(area));
+void Panel::fit(const Area& area) {
+  const TableGeometry& geometry = table_.geometry_in_pixels();
+  QRect place = table_.widget_area(area);
   const int lowest = geometry.widget_rect(geometry.table()).bottom();
   // On a copy: the one that shows stays as wide as its scroll bar leaves it.
   const std::unique_ptr<QTextDocument> measured(document()->clone());
@@ -129,8 +130,9 @@ bool Panel::eventFilter(QObject* table, QEvent* event) {
   return true;
 }
 
-Field::Field(ControlId id, FieldRule rule, const Font& font, QWidget& parent, WindowEvents& events)
-    : QLineEdit(&parent), id_(id), rule_(rule), font_(font), events_(events) {
+Field::Field(ControlId id, FieldRule rule, const Font& font, TableWidget& table,
+             WindowEvents& events)
+    : QLineEdit(&table), Control(table), id_(id), rule_(rule), font_(font), events_(events) {
   setFrame(false);
   setMaxLength(kMostTyped);
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -139,8 +141,9 @@ Field::Field(ControlId id, FieldRule rule, const Font& font, QWidget& parent, Wi
 }
 
 // Letters are measured in points, but never higher than the field.
-void Field::fit(const Area& area, const TableGeometry& geometry) {
-  const QRect place = geometry.widget_rect(geometry.pixels(area));
+void Field::fit(const Area& area) {
+  const TableGeometry& geometry = table_.geometry_in_pixels();
+  const QRect place = table_.widget_area(area);
   QFont letters = control_font(font_);
   int size = std::max(1, qRound(geometry.pixels_per_point() * font_.size / geometry.ratio()));
   do {
@@ -148,6 +151,15 @@ void Field::fit(const Area& area, const TableGeometry& geometry) {
   } while (QFontMetrics(letters).height() > place.height() - 2 && --size > 4);
   setFont(letters);
   setGeometry(place);
+}
+
+void Field::bring_to_front() {
+  Control::bring_to_front();
+  take_keyboard();
+}
+
+void Field::set_name(const std::string& name) {
+  setAccessibleName(QString::fromStdString(name));
 }
 
 void Field::set_text(const std::string& text) {
@@ -178,8 +190,8 @@ void Field::paintEvent(QPaintEvent* event) {
   painter.fillRect(rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
 }
 
-ShapeControl::ShapeControl(Colour colour, QWidget& parent)
-    : QWidget(&parent), colour_(to_qcolor(colour)) {
+ShapeControl::ShapeControl(Colour colour, TableWidget& table)
+    : QWidget(&table), Control(table), colour_(to_qcolor(colour)) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -206,19 +218,20 @@ void ShapeControl::paintEvent(QPaintEvent*) {
                  middle + QPointF(3.6, -2.5) * unit}));
 }
 
-void ShapeControl::fit(const Area& area, const TableGeometry& geometry) {
-  setGeometry(geometry.widget_rect(geometry.pixels(area)));
+void ShapeControl::fit(const Area& area) {
+  setGeometry(table_.widget_area(area));
 }
 
-PictureControl::PictureControl(ControlId id, Picture picture, QWidget& parent,
-                               const painting::PictureCache& pictures, WindowEvents& events)
-    : QWidget(&parent), id_(id), picture_(picture), pictures_(pictures), events_(events) {
+PictureControl::PictureControl(ControlId id, Picture picture, TableWidget& table,
+                               WindowEvents& events)
+    : QWidget(&table), Control(table), id_(id), picture_(picture), events_(events) {
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::ArrowCursor);
-  parent.installEventFilter(this);
+  table.installEventFilter(this);
 }
 
-void PictureControl::fit(const Area& area, const TableGeometry& geometry) {
+void PictureControl::fit(const Area& area) {
+  const TableGeometry& geometry = table_.geometry_in_pixels();
   pixels_ = geometry.picture_pixels(area);
   ratio_ = geometry.ratio();
   setGeometry(geometry.widget_rect(pixels_));
@@ -231,7 +244,7 @@ void PictureControl::paintEvent(QPaintEvent*) {
   painter.translate(-pos());
   use_true_pixels(painter, ratio_);
   prepare();
-  if (coming_.valid()) bitmap_ = coming_.get();
+  if (coming_.valid()) bitmap_ = come();
   painter.drawImage(to_qrect(pixels_).topLeft(), view_of(bitmap_));
 }
 
@@ -239,9 +252,18 @@ void PictureControl::prepare() {
   const QSize size(pixels_.width(), pixels_.height());
   if (size == asked_for_) return;
   asked_for_ = size;
-  coming_ = std::async([drawing = pictures_.vectors(picture_), size] {
+  coming_ = std::async([drawing = table_.pictures().vectors(picture_), size] {
     return raster::rasterise(drawing, size.width(), size.height());
   });
+}
+
+// Without memory for it the table shows in its place, until another size is asked for.
+raster::Bitmap PictureControl::come() {
+  try {
+    return coming_.get();
+  } catch (const std::bad_alloc&) {
+    return {};
+  }
 }
 
 // What lies under it is painted first: a window's worth of pixels, and at the start new memory for

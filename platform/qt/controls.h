@@ -5,18 +5,24 @@
 #include <QWidget>
 #include <future>
 
-#include "painting/picture_cache.h"
-#include "qt/geometry.h"
-#include "seam/window.h"
+#include "painting/overlay.h"
+#include "qt/table_widget.h"
 
 namespace tombrello::qt {
 
-/// Something that lies over the table and follows it.
-class Control {
+/// What lies over the table is a widget of its own.
+class Control : public painting::Control {
  public:
-  virtual ~Control() = default;
+  explicit Control(const TableWidget& table) : table_(table) {}
+  void set_shown(bool shown) override { widget().setVisible(shown); }
+  void bring_to_front() override { widget().raise(); }
+  bool has_keyboard() override { return widget().hasFocus(); }
+  void take_keyboard() override { widget().setFocus(); }
+
+ protected:
   virtual QWidget& widget() = 0;
-  virtual void fit(const Area& area, const TableGeometry& geometry) = 0;
+
+  const TableWidget& table_;
 };
 
 /// A framed text with bold headings. Where it needs more room than it was given, it grows downward
@@ -24,11 +30,11 @@ class Control {
 class Panel : public QTextEdit, public Control {
  public:
   Panel(ControlId id, const std::string& text, const Font& font, long text_colour, long back_colour,
-        QWidget& parent, WindowEvents& events);
-  QWidget& widget() override { return *this; }
-  void fit(const Area& area, const TableGeometry& geometry) override;
+        TableWidget& table, WindowEvents& events);
+  void fit(const Area& area) override;
 
  protected:
+  QWidget& widget() override { return *this; }
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -42,12 +48,14 @@ class Panel : public QTextEdit, public Control {
 
 class Field : public QLineEdit, public Control {
  public:
-  Field(ControlId id, FieldRule rule, const Font& font, QWidget& parent, WindowEvents& events);
-  QWidget& widget() override { return *this; }
-  void fit(const Area& area, const TableGeometry& geometry) override;
-  void set_text(const std::string& text);
+  Field(ControlId id, FieldRule rule, const Font& font, TableWidget& table, WindowEvents& events);
+  void fit(const Area& area) override;
+  void bring_to_front() override;
+  void set_name(const std::string& name) override;
+  void set_text(const std::string& text) override;
 
  protected:
+  QWidget& widget() override { return *this; }
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -63,11 +71,11 @@ class Field : public QLineEdit, public Control {
 /// A bar that invites a press, which is a press on the table under it.
 class ShapeControl : public QWidget, public Control {
  public:
-  ShapeControl(Colour colour, QWidget& parent);
-  QWidget& widget() override { return *this; }
-  void fit(const Area& area, const TableGeometry& geometry) override;
+  ShapeControl(Colour colour, TableWidget& table);
+  void fit(const Area& area) override;
 
  protected:
+  QWidget& widget() override { return *this; }
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -78,12 +86,12 @@ class ShapeControl : public QWidget, public Control {
 /// no longer than that.
 class PictureControl : public QWidget, public Control {
  public:
-  PictureControl(ControlId id, Picture picture, QWidget& parent,
-                 const painting::PictureCache& pictures, WindowEvents& events);
-  QWidget& widget() override { return *this; }
-  void fit(const Area& area, const TableGeometry& geometry) override;
+  PictureControl(ControlId id, Picture picture, TableWidget& table, WindowEvents& events);
+  bool rests_keyboard() const override { return true; }
+  void fit(const Area& area) override;
 
  protected:
+  QWidget& widget() override { return *this; }
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -94,10 +102,10 @@ class PictureControl : public QWidget, public Control {
 
  private:
   void prepare();
+  raster::Bitmap come();
 
   ControlId id_;
   Picture picture_;
-  const painting::PictureCache& pictures_;
   WindowEvents& events_;
   QSize asked_for_;
   std::future<raster::Bitmap> coming_;  ///< in the size asked for

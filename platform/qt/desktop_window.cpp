@@ -70,9 +70,8 @@ void DesktopWindow::Frame::stay_on_screen() {
 }
 
 DesktopWindow::DesktopWindow(painting::PictureSource pictures, const IconSource& icon)
-    : table_(new TableWidget(std::move(pictures), relay_)),
-      line_(new ChronicleLine(nullptr)),
-      overlay_(*table_, relay_) {
+    : table_(new TableWidget(std::move(pictures), relay_)), line_(new ChronicleLine(nullptr)) {
+  table_->set_follower([this] { overlay_.follow_table(); });
   make_tables_accessible();
   auto* whole = new QWidget(&frame_);
   auto* rows = new QVBoxLayout(whole);
@@ -169,31 +168,20 @@ void DesktopWindow::add_entry(EntryId entry, EntryId parent, const std::string& 
 
 void DesktopWindow::add_panel(ControlId panel, const std::string& text, const Font& font,
                               long text_colour, long back_colour) {
-  overlay_.add_panel(panel, text, font, text_colour, back_colour);
+  overlay_.add(
+      panel, std::make_unique<Panel>(panel, text, font, text_colour, back_colour, *table_, relay_));
 }
 
 void DesktopWindow::add_field(ControlId field, FieldRule rule, const Font& font) {
-  overlay_.add_field(field, rule, font);
-}
-
-void DesktopWindow::name_field(ControlId field, const std::string& name) {
-  overlay_.name_field(field, name);
+  overlay_.add(field, std::make_unique<Field>(field, rule, font, *table_, relay_));
 }
 
 void DesktopWindow::add_shape(ControlId shape, Colour colour) {
-  overlay_.add_shape(shape, colour);
+  overlay_.add(shape, std::make_unique<ShapeControl>(colour, *table_));
 }
 
 void DesktopWindow::add_picture(ControlId control, Picture picture) {
-  overlay_.add_picture(control, picture);
-}
-
-void DesktopWindow::set_visible(ControlId control, bool visible) {
-  overlay_.set_visible(control, visible);
-}
-
-void DesktopWindow::set_text(ControlId field, const std::string& text) {
-  overlay_.set_text(field, text);
+  overlay_.add(control, std::make_unique<PictureControl>(control, picture, *table_, relay_));
 }
 
 }  // namespace tombrello::qt

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "qt/chronicle_line.h"
+#include "qt/controls.h"
 #include "qt/menus.h"
-#include "qt/overlay.h"
 #include "qt/table_widget.h"
 #include "seam/drawing.h"
 #include "seam/event_relay.h"
@@ -54,14 +54,20 @@ class DesktopWindow : public Window {
   void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
                  long back_colour) override;
   void add_field(ControlId field, FieldRule rule, const Font& font) override;
-  void name_field(ControlId field, const std::string& name) override;
+  void name_field(ControlId field, const std::string& name) override {
+    overlay_.name_field(field, name);
+  }
   void add_shape(ControlId shape, Colour colour) override;
   void add_picture(ControlId control, Picture picture) override;
   void place(ControlId control, const Area& area) override { overlay_.place(control, area); }
-  void set_visible(ControlId control, bool visible) override;
+  void set_visible(ControlId control, bool visible) override {
+    overlay_.set_visible(control, visible);
+  }
   bool visible(ControlId control) const override { return overlay_.visible(control); }
   void bring_to_front(ControlId control) override { overlay_.bring_to_front(control); }
-  void set_text(ControlId field, const std::string& text) override;
+  void set_text(ControlId field, const std::string& text) override {
+    overlay_.set_text(field, text);
+  }
 
   /// Called once, soon after the window has first been painted.
   void after_first_paint(std::function<void()> action) {
@@ -95,7 +101,7 @@ class DesktopWindow : public Window {
   TableWidget* table_;  ///< belongs to the frame, as the line below it does
   ChronicleLine* line_;
   Menus menus_{*frame_.menuBar(), relay_};
-  Overlay overlay_;
+  painting::Overlay overlay_{[this] { table_->setFocus(); }};
   QMessageBox* box_ = nullptr;  ///< while one waits
 };
 

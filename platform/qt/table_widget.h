@@ -21,7 +21,7 @@ class TableWidget : public QWidget {
   TableWidget(painting::PictureSource source, WindowEvents& events);
 
   Surface& surface() { return surface_; }
-  painting::PictureCache& pictures() { return pictures_; }
+  const painting::PictureCache& pictures() const { return pictures_; }
   const TableGeometry& geometry_in_pixels() const { return geometry_; }
   /// Called whenever the table has moved or changed its size.
   void set_follower(std::function<void()> follower);

@@ -13,6 +13,7 @@
 #include <atomic>
 #include <cassert>
 #include <cmath>
+#include <new>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -188,15 +189,29 @@ Bitmap rasterise(const Drawing& drawing, int w, int h) {
       for (const Shape& shape : drawing.shapes) painter.paint(shape);
     }
   };
+  // A thread that gets no memory gives up, and the caller paints all once more.
+  std::atomic<bool> gave_up = false;
+  const auto help = [&] {
+    try {
+      paint_bands();
+    } catch (const std::bad_alloc&) {
+      gave_up = true;
+    }
+  };
   const int cores = std::min(bands, static_cast<int>(std::thread::hardware_concurrency()));
   std::vector<std::jthread> helpers;
   try {
-    for (int core = 1; core < cores; ++core) helpers.emplace_back(paint_bands);
+    for (int core = 1; core < cores; ++core) helpers.emplace_back(help);
   } catch (const std::system_error&) {
     // No more threads are to be had: those that are paint all.
   }
   paint_bands();
   helpers.clear();
+  if (gave_up) {  // somewhere in the middle of a band
+    std::fill(bitmap.pixels.begin(), bitmap.pixels.end(), 0);
+    next = 0;
+    paint_bands();
+  }
   return bitmap;
 }
 

@@ -112,7 +112,7 @@ class Window {
   /// What `rule` doesn't take can't be typed or pasted into a field.
   virtual void add_field(ControlId field, FieldRule rule, const Font& font) = 0;
   /// What assistive technology calls a field, where it asks for names.
-  virtual void name_field(ControlId, const std::string& /*name*/) {}
+  virtual void name_field(ControlId field, const std::string& name) = 0;
   virtual void add_shape(ControlId shape, Colour colour) = 0;
   virtual void add_picture(ControlId control, Picture picture) = 0;
   virtual void place(ControlId control, const Area& area) = 0;

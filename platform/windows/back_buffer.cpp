@@ -49,7 +49,7 @@ void GdiCanvas::text(const TextItem& item, const painting::TableGeometry& geomet
                      const painting::Region& visible) {
   const std::wstring text = wide(item.text);
   const painting::PixelPlace place = letters_.top_left(item, geometry);
-  const HGDIOBJ before = SelectObject(dc_, letters_.table_style(item.font, geometry).font);
+  const HGDIOBJ before = SelectObject(dc_, letters_.table_style(item.font, geometry).font.get());
   SetTextColor(dc_, item.colour);
   SetBkMode(dc_, TRANSPARENT);
   for (const painting::PixelRect& rect : visible.rects()) {

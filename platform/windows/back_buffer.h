@@ -17,13 +17,12 @@ class BackBuffer {
 
   /// What was painted is lost. Without memory for it the buffer is of no size.
   void resize(painting::PixelSize size);
+  void drop();  ///< gives the memory back
   const painting::PixelMemory& memory() const { return memory_; }
   HDC dc() const { return dc_; }
   void show(HDC screen, const RECT& part) const;
 
  private:
-  void drop();
-
   HDC dc_;
   HBITMAP bitmap_ = nullptr;
   HGDIOBJ before_ = nullptr;

@@ -1,7 +1,6 @@
 #include "windows/chronicle_line.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "windows/strings.h"
 
@@ -33,43 +32,29 @@ std::wstring end_of(HDC dc, const std::wstring& text, int room) {
 
 }  // namespace
 
-ChronicleLine::~ChronicleLine() {
-  drop_letters();
-}
-
 void ChronicleLine::create_in(HWND frame) {
   create(L"TombrelloLine", WS_CHILD | WS_VISIBLE, frame);
   be_alert();
-}
-
-void ChronicleLine::drop_letters() {
-  for (HFONT* font : {&plain_, &bold_}) {
-    if (*font != nullptr) DeleteObject(std::exchange(*font, nullptr));
-  }
 }
 
 void ChronicleLine::choose_letters() {
   const UINT dots = GetDpiForWindow(handle());
   if (dots == dots_ && plain_ != nullptr) return;
   dots_ = dots;
-  drop_letters();
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dots);
-  plain_ = CreateFontIndirectW(&metrics.lfMessageFont);
+  plain_.reset(CreateFontIndirectW(&metrics.lfMessageFont));
   metrics.lfMessageFont.lfWeight = FW_BOLD;
-  bold_ = CreateFontIndirectW(&metrics.lfMessageFont);
+  bold_.reset(CreateFontIndirectW(&metrics.lfMessageFont));
 }
 
 int ChronicleLine::height() {
   choose_letters();
   const HDC dc = GetDC(handle());
-  const HGDIOBJ before = SelectObject(dc, plain_);
-  TEXTMETRICW metrics{};
-  GetTextMetricsW(dc, &metrics);
-  SelectObject(dc, before);
+  const int line = line_height(dc, plain_.get());
   ReleaseDC(handle(), dc);
-  return static_cast<int>(metrics.tmHeight + metrics.tmHeight / 2);
+  return line + line / 2;
 }
 
 // The window's own text is what is read to those who have it read.
@@ -79,13 +64,11 @@ void ChronicleLine::tell(const std::string& now, const std::string& then) {
   const std::wstring whole = then_.empty() ? now_ : now_ + L" — " + then_;
   SetWindowTextW(handle(), whole.c_str());
   read_out();
-  InvalidateRect(handle(), nullptr, FALSE);
+  repaint();
 }
 
-void ChronicleLine::paint() {
+void ChronicleLine::paint(HDC dc, const RECT&) {
   choose_letters();
-  PAINTSTRUCT shown{};
-  const HDC dc = BeginPaint(handle(), &shown);
   const painting::PixelRect all = client_pixels(handle());
   RECT inside = to_rect(all);
   FillRect(dc, &inside, GetSysColorBrush(COLOR_BTNFACE));
@@ -93,31 +76,20 @@ void ChronicleLine::paint() {
   SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
   const auto pixels = [this](int at_96) { return MulDiv(at_96, static_cast<int>(dots_), 96); };
   InflateRect(&inside, -pixels(kMargin), 0);
-  const HGDIOBJ before = SelectObject(dc, bold_);
+  const HGDIOBJ before = SelectObject(dc, bold_.get());
   DrawTextW(dc, now_.c_str(), -1, &inside, kLayout | DT_END_ELLIPSIS);
   const int left = std::min(width_of(dc, now_), static_cast<int>(inside.right - inside.left));
   const int room = static_cast<int>(inside.right - inside.left) - left - pixels(kGap);
-  SelectObject(dc, plain_);
+  SelectObject(dc, plain_.get());
   if (room > 0) {
     DrawTextW(dc, end_of(dc, then_, room).c_str(), -1, &inside, kLayout | DT_RIGHT);
   }
   SelectObject(dc, before);
-  EndPaint(handle(), &shown);
 }
 
 LRESULT ChronicleLine::message(UINT message, WPARAM w, LPARAM l) {
-  switch (message) {
-    case WM_ERASEBKGND:
-      return 1;
-    case WM_PAINT:
-      paint();
-      return 0;
-    case WM_SIZE:
-      InvalidateRect(handle(), nullptr, FALSE);
-      return 0;
-    default:
-      return NativeWindow::message(message, w, l);
-  }
+  if (message == WM_SIZE) repaint();
+  return PaintedWindow::message(message, w, l);
 }
 
 }  // namespace tombrello::windows

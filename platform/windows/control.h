@@ -2,19 +2,26 @@
 
 #include <windows.h>
 
-#include "seam/surface.h"
+#include "painting/overlay.h"
 #include "windows/table_view.h"
 
 namespace tombrello::windows {
 
-/// Something that lies over the table and follows it.
-class Control {
+/// What lies over the table is a window of its own.
+class Control : public painting::Control {
  public:
-  virtual ~Control() = default;
+  explicit Control(TableView& table) : table_(table) {}
+  void set_shown(bool shown) override { ShowWindow(window(), shown ? SW_SHOWNA : SW_HIDE); }
+  void bring_to_front() override {
+    SetWindowPos(window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
+  bool has_keyboard() override { return GetFocus() == window(); }
+  void take_keyboard() override { SetFocus(window()); }
+
+ protected:
   virtual HWND window() const = 0;
-  virtual void fit(const Area& area, const TableView& table) = 0;
-  /// It has come into sight, or gone out of it.
-  virtual void shown(bool) {}
+
+  TableView& table_;
 };
 
 inline constexpr DWORD kControlStyle = WS_CHILD | WS_CLIPSIBLINGS;

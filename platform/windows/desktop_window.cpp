@@ -5,6 +5,9 @@
 #include <thread>
 #include <utility>
 
+#include "windows/field.h"
+#include "windows/panel.h"
+#include "windows/picture_controls.h"
 #include "windows/strings.h"
 
 namespace tombrello::windows {
@@ -27,6 +30,7 @@ DesktopWindow::DesktopWindow(painting::PictureSource pictures)
   SetMenu(handle(), menus_.bar());
   menus_.set_frame(handle());
   table_.create_in(handle());
+  table_.set_follower([this] { overlay_.follow_table(); });
   line_.create_in(handle());
   place_in_work_area();
 }
@@ -121,6 +125,24 @@ Answer DesktopWindow::message_box(const std::string& text, Buttons buttons) {
 
 void DesktopWindow::add_entry(EntryId entry, EntryId parent, const std::string& caption) {
   menus_.add(entry, parent, caption);
+}
+
+void DesktopWindow::add_panel(ControlId panel, const std::string& text, const Font& font,
+                              long text_colour, long back_colour) {
+  overlay_.add(
+      panel, std::make_unique<Panel>(panel, text, font, text_colour, back_colour, table_, relay_));
+}
+
+void DesktopWindow::add_field(ControlId field, FieldRule rule, const Font& font) {
+  overlay_.add(field, std::make_unique<Field>(field, rule, font, table_, relay_));
+}
+
+void DesktopWindow::add_shape(ControlId shape, Colour colour) {
+  overlay_.add(shape, std::make_unique<ShapeControl>(colour, table_));
+}
+
+void DesktopWindow::add_picture(ControlId control, Picture picture) {
+  overlay_.add(control, std::make_unique<PictureControl>(control, picture, table_, relay_));
 }
 
 void DesktopWindow::keep_keyboard(bool active) {

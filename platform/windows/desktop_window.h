@@ -3,11 +3,11 @@
 #include <functional>
 #include <string>
 
+#include "painting/overlay.h"
 #include "seam/event_relay.h"
 #include "seam/window.h"
 #include "windows/chronicle_line.h"
 #include "windows/menus.h"
-#include "windows/overlay.h"
 #include "windows/question.h"
 #include "windows/table_view.h"
 #include "windows/waitable_timer.h"
@@ -50,19 +50,13 @@ class DesktopWindow : public NativeWindow, public Window {
   bool enabled(EntryId entry) const override { return menus_.enabled(entry); }
 
   void add_panel(ControlId panel, const std::string& text, const Font& font, long text_colour,
-                 long back_colour) override {
-    overlay_.add_panel(panel, text, font, text_colour, back_colour);
-  }
-  void add_field(ControlId field, FieldRule rule, const Font& font) override {
-    overlay_.add_field(field, rule, font);
-  }
+                 long back_colour) override;
+  void add_field(ControlId field, FieldRule rule, const Font& font) override;
   void name_field(ControlId field, const std::string& name) override {
     overlay_.name_field(field, name);
   }
-  void add_shape(ControlId shape, Colour colour) override { overlay_.add_shape(shape, colour); }
-  void add_picture(ControlId control, Picture picture) override {
-    overlay_.add_picture(control, picture);
-  }
+  void add_shape(ControlId shape, Colour colour) override;
+  void add_picture(ControlId control, Picture picture) override;
   void place(ControlId control, const Area& area) override { overlay_.place(control, area); }
   void set_visible(ControlId control, bool visible) override {
     overlay_.set_visible(control, visible);
@@ -99,7 +93,7 @@ class DesktopWindow : public NativeWindow, public Window {
   Menus menus_;
   TableView table_;
   ChronicleLine line_;
-  Overlay overlay_{table_, relay_};
+  painting::Overlay overlay_{[this] { SetFocus(table_.handle()); }};
   Question question_;
   HWND keyboard_ = nullptr;  ///< where it was when the window was left
   std::function<void()> woken_;

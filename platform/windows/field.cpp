@@ -37,7 +37,7 @@ std::wstring text_of(HWND edit) {
 }  // namespace
 
 Field::Field(ControlId id, FieldRule rule, const Font& font, TableView& table, WindowEvents& events)
-    : id_(id), rule_(rule), font_(font), table_(table), events_(events) {
+    : Control(table), id_(id), rule_(rule), font_(font), events_(events) {
   edit_ = CreateWindowExW(0, L"EDIT", L"", kControlStyle | WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL,
                           0, 0, 0, 0, table.handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
   SendMessageW(edit_, EM_SETLIMITTEXT, kMostTyped, 0);
@@ -49,14 +49,19 @@ Field::~Field() {
 }
 
 // Letters are measured in points, but never higher than the field.
-void Field::fit(const Area& area, const TableView& table) {
-  const painting::PixelRect place = table.geometry().pixels(area);
+void Field::fit(const Area& area) {
+  const painting::PixelRect place = table_.geometry().pixels(area);
   const int room = place.height() - 2 * GetSystemMetrics(SM_CYBORDER);
-  int pixels = table.geometry().letter_pixels(font_);
-  while (pixels > 4 && table.letters().style(font_, pixels, false).height > room) --pixels;
-  const HFONT font = table.letters().style(font_, pixels, false).font;
+  int pixels = table_.geometry().letter_pixels(font_);
+  while (pixels > 4 && table_.letters().style(font_, pixels, false).height > room) --pixels;
+  const HFONT font = table_.letters().style(font_, pixels, false).font.get();
   SendMessageW(edit_, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
   move_to(edit_, place);
+}
+
+void Field::bring_to_front() {
+  Control::bring_to_front();
+  take_keyboard();
 }
 
 std::wstring Field::allowed(const std::wstring& raw, int characters_already) const {

@@ -16,10 +16,13 @@ class Field : public Control {
   Field& operator=(const Field&) = delete;
   ~Field() override;
 
+  void fit(const Area& area) override;
+  void bring_to_front() override;
+  void set_text(const std::string& text) override;
+  void set_name(const std::string& name) override { name_ = wide(name); }
+
+ protected:
   HWND window() const override { return edit_; }
-  void fit(const Area& area, const TableView& table) override;
-  void set_text(const std::string& text);
-  void set_name(const std::string& name) { name_ = wide(name); }
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
@@ -32,7 +35,6 @@ class Field : public Control {
   ControlId id_;
   FieldRule rule_;
   Font font_;
-  TableView& table_;
   WindowEvents& events_;
   HWND edit_;
   bool putting_ = false;

@@ -23,11 +23,18 @@ LOGFONTW described(const std::string& name, int pixels, bool bold) {
 
 }  // namespace
 
+int line_height(HDC dc, HFONT font) {
+  const HGDIOBJ before = SelectObject(dc, font);
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc, &metrics);
+  SelectObject(dc, before);
+  return static_cast<int>(metrics.tmHeight);
+}
+
 GdiLetters::GdiLetters() : dc_(CreateCompatibleDC(nullptr)) {}
 
 GdiLetters::~GdiLetters() {
   DeleteDC(dc_);
-  for (const auto& [key, style] : styles_) DeleteObject(style.font);
 }
 
 const GdiLetters::Style& GdiLetters::style(const Font& font, int pixels, bool bold) const {
@@ -35,12 +42,8 @@ const GdiLetters::Style& GdiLetters::style(const Font& font, int pixels, bool bo
   if (fresh) {
     const LOGFONTW description = described(font.name, pixels, bold);
     Style& style = place->second;
-    style.font = CreateFontIndirectW(&description);
-    const HGDIOBJ before = SelectObject(dc_, style.font);
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(dc_, &metrics);
-    SelectObject(dc_, before);
-    style.height = static_cast<int>(metrics.tmHeight);
+    style.font.reset(CreateFontIndirectW(&description));
+    style.height = line_height(dc_, style.font.get());
   }
   return place->second;
 }
@@ -63,7 +66,7 @@ painting::PixelRect GdiLetters::pixels(const TextItem& item,
   const Style& style = table_style(item.font, geometry);
   const painting::PixelPlace start = top_left(item, geometry);
   const std::wstring text = wide(item.text);
-  const HGDIOBJ before = SelectObject(dc_, style.font);
+  const HGDIOBJ before = SelectObject(dc_, style.font.get());
   SIZE size{};
   GetTextExtentPoint32W(dc_, text.data(), static_cast<int>(text.size()), &size);
   SelectObject(dc_, before);

@@ -3,12 +3,22 @@
 #include <windows.h>
 
 #include <map>
+#include <memory>
 #include <string>
 #include <tuple>
+#include <type_traits>
 
 #include "painting/canvas.h"
 
 namespace tombrello::windows {
+
+struct FontEnd {
+  void operator()(HFONT font) const { DeleteObject(font); }
+};
+/// Letters of the system, given back to it with their owner.
+using OwnFont = std::unique_ptr<std::remove_pointer_t<HFONT>, FontEnd>;
+
+int line_height(HDC dc, HFONT font);  ///< in pixels
 
 /// The system's letters, in sizes of pixels.
 class GdiLetters : public painting::Letters {
@@ -19,8 +29,8 @@ class GdiLetters : public painting::Letters {
   ~GdiLetters() override;
 
   struct Style {
-    HFONT font = nullptr;  ///< stays as long as the letters
-    int height = 0;        ///< of a line, in pixels
+    OwnFont font;    ///< stays as long as the letters
+    int height = 0;  ///< of a line, in pixels
   };
   /// The only place that knows which families of the system stand for those that the game asks
   /// for.

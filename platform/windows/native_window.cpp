@@ -41,6 +41,16 @@ LRESULT NativeWindow::message(UINT message, WPARAM w, LPARAM l) {
   return DefWindowProcW(handle_, message, w, l);
 }
 
+LRESULT PaintedWindow::message(UINT message, WPARAM w, LPARAM l) {
+  if (message == WM_ERASEBKGND) return 1;
+  if (message != WM_PAINT) return NativeWindow::message(message, w, l);
+  PAINTSTRUCT shown{};
+  const HDC dc = BeginPaint(handle(), &shown);
+  paint(dc, shown.rcPaint);
+  EndPaint(handle(), &shown);
+  return 0;
+}
+
 void NativeWindow::read_out() const {
   NotifyWinEvent(EVENT_SYSTEM_ALERT, handle_, OBJID_CLIENT, CHILDID_SELF);
 }

@@ -33,6 +33,16 @@ class NativeWindow {
   bool described_ = false;
 };
 
+/// A window that paints all of itself.
+class PaintedWindow : public NativeWindow {
+ protected:
+  LRESULT message(UINT message, WPARAM w, LPARAM l) override;
+  /// `stale` is the part that isn't shown as it should be.
+  virtual void paint(HDC dc, const RECT& stale) = 0;
+  /// Has it painted anew, soon.
+  void repaint() const { InvalidateRect(handle(), nullptr, FALSE); }
+};
+
 inline RECT to_rect(const painting::PixelRect& rect) {
   return {rect.left, rect.top, rect.right, rect.bottom};
 }

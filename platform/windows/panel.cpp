@@ -35,15 +35,15 @@ bool is_heading(const std::vector<std::wstring>& lines, std::size_t i) {
 
 Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_colour,
              long back_colour, TableView& table, WindowEvents& events)
-    : id_(id),
+    : Control(table),
+      id_(id),
       font_(font),
       text_colour_(colour_or(text_colour, COLOR_BTNTEXT)),
       back_colour_(colour_or(back_colour, COLOR_BTNFACE)),
-      events_(events),
-      letters_(table.letters()) {
+      events_(events) {
   const std::vector<std::wstring> lines = split(wide(text));
   for (std::size_t i = 0; i < lines.size(); ++i) lines_.push_back({lines[i], is_heading(lines, i)});
-  create(L"TombrelloPanel", kControlStyle | WS_BORDER, table.handle());
+  create(kPanelKind, kControlStyle | WS_BORDER, table.handle());
   SetWindowTextW(handle(), wide(text).c_str());  // for those who have it read to them
   be_alert();
 }
@@ -51,8 +51,8 @@ Panel::Panel(ControlId id, const std::string& text, const Font& font, long text_
 int Panel::lay_out(HDC dc, int width, int top, bool draw) const {
   int y = top + margin_;
   for (const Line& line : lines_) {
-    const GdiLetters::Style& style = letters_.style(font_, letter_pixels_, line.heading);
-    SelectObject(dc, style.font);
+    const GdiLetters::Style& style = table_.letters().style(font_, letter_pixels_, line.heading);
+    SelectObject(dc, style.font.get());
     RECT place{margin_, y, std::max(margin_ + 1, width - margin_), y};
     DrawTextW(dc, line.text.c_str(), -1, &place, kLayout | DT_CALCRECT);
     place.right = std::max<LONG>(margin_ + 1, width - margin_);
@@ -70,13 +70,13 @@ int Panel::height_at(int width) const {
 }
 
 // A bar takes width from the text, which may then need more height.
-void Panel::fit(const Area& area, const TableView& table) {
-  painting::PixelRect place = table.geometry().pixels(area);
-  letter_pixels_ = table.geometry().letter_pixels(font_);
-  margin_ = table.geometry().letter_pixels({"", 6});
+void Panel::fit(const Area& area) {
+  painting::PixelRect place = table_.geometry().pixels(area);
+  letter_pixels_ = table_.geometry().letter_pixels(font_);
+  margin_ = table_.geometry().letter_pixels({"", 6});
   const int border = 2 * GetSystemMetrics(SM_CXBORDER);
   needed_ = height_at(place.width() - border);
-  const int lowest = table.geometry().table().bottom;
+  const int lowest = table_.geometry().table().bottom;
   if (needed_ + border > place.height()) {
     place.bottom = std::min(lowest, place.top + needed_ + border);
   }
@@ -92,11 +92,12 @@ void Panel::fit(const Area& area, const TableView& table) {
   info.nPage = static_cast<UINT>(inside.height());
   if (!all) SetScrollInfo(handle(), SB_VERT, &info, TRUE);
   scroll_to(top_);
-  InvalidateRect(handle(), nullptr, FALSE);
+  repaint();
 }
 
-void Panel::shown(bool visible) {
-  if (!visible) return;
+void Panel::set_shown(bool shown) {
+  Control::set_shown(shown);
+  if (!shown) return;
   scroll_to(0);
   read_out();
 }
@@ -104,11 +105,11 @@ void Panel::shown(bool visible) {
 void Panel::scroll_to(int top) {
   top_ = std::clamp(top, 0, std::max(0, needed_ - client_pixels(handle()).height()));
   SetScrollPos(handle(), SB_VERT, top_, TRUE);
-  InvalidateRect(handle(), nullptr, FALSE);
+  repaint();
 }
 
 void Panel::scroll(WPARAM how) {
-  const int line = letters_.style(font_, letter_pixels_, false).height;
+  const int line = table_.letters().style(font_, letter_pixels_, false).height;
   const int page = client_pixels(handle()).height() - line;
   SCROLLINFO info{};
   info.cbSize = sizeof info;
@@ -123,6 +124,10 @@ void Panel::scroll(WPARAM how) {
       return scroll_to(top_ - page);
     case SB_PAGEDOWN:
       return scroll_to(top_ + page);
+    case SB_TOP:
+      return scroll_to(0);
+    case SB_BOTTOM:
+      return scroll_to(needed_);
     case SB_THUMBTRACK:
       return scroll_to(info.nTrackPos);
     default:
@@ -130,23 +135,15 @@ void Panel::scroll(WPARAM how) {
   }
 }
 
-void Panel::paint() {
-  PAINTSTRUCT shown{};
-  const HDC dc = BeginPaint(handle(), &shown);
+void Panel::paint(HDC dc, const RECT& stale) {
   SetBkColor(dc, back_colour_);
-  ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &shown.rcPaint, nullptr, 0, nullptr);
+  ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &stale, nullptr, 0, nullptr);
   SetTextColor(dc, text_colour_);
   lay_out(dc, client_pixels(handle()).width(), -top_, true);
-  EndPaint(handle(), &shown);
 }
 
 LRESULT Panel::message(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
-    case WM_ERASEBKGND:
-      return 1;
-    case WM_PAINT:
-      paint();
-      return 0;
     case WM_VSCROLL:
       scroll(w);
       return 0;
@@ -158,7 +155,7 @@ LRESULT Panel::message(UINT message, WPARAM w, LPARAM l) {
       events_.control_clicked(id_);
       return 0;
     default:
-      return NativeWindow::message(message, w, l);
+      return PaintedWindow::message(message, w, l);
   }
 }
 

@@ -10,16 +10,17 @@ namespace tombrello::windows {
 
 /// A framed text with bold headings. Where it needs more room than it was given, it grows downward
 /// to the table's lower edge, and scrolls beyond that.
-class Panel : public NativeWindow, public Control {
+class Panel : public PaintedWindow, public Control {
  public:
   Panel(ControlId id, const std::string& text, const Font& font, long text_colour, long back_colour,
         TableView& table, WindowEvents& events);
-  HWND window() const override { return handle(); }
-  void fit(const Area& area, const TableView& table) override;
-  void shown(bool visible) override;
+  void fit(const Area& area) override;
+  void set_shown(bool shown) override;
 
  protected:
+  HWND window() const override { return handle(); }
   LRESULT message(UINT message, WPARAM w, LPARAM l) override;
+  void paint(HDC dc, const RECT& stale) override;
 
  private:
   struct Line {
@@ -30,7 +31,6 @@ class Panel : public NativeWindow, public Control {
   /// Draws the lines, or only measures them; answers their height.
   int lay_out(HDC dc, int width, int top, bool draw) const;
   int height_at(int width) const;
-  void paint();
   void scroll(WPARAM how);
   void scroll_to(int top);
 
@@ -40,7 +40,6 @@ class Panel : public NativeWindow, public Control {
   COLORREF text_colour_;
   COLORREF back_colour_;
   WindowEvents& events_;
-  const GdiLetters& letters_;
   int letter_pixels_ = 12;
   int margin_ = 8;
   int needed_ = 0;  ///< height of the whole text, with its margins

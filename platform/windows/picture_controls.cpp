@@ -11,13 +11,6 @@ namespace {
 
 using painting::PixelRect;
 
-void show(HWND window, const BackBuffer& buffer) {
-  PAINTSTRUCT shown{};
-  const HDC screen = BeginPaint(window, &shown);
-  buffer.show(screen, shown.rcPaint);
-  EndPaint(window, &shown);
-}
-
 Rgba shade(Colour colour, int percent) {
   const auto part = [=](unsigned shift) {
     const int value = static_cast<int>(colour >> shift & 0xFF) * percent / 100;
@@ -67,67 +60,58 @@ void put(BackBuffer& buffer, const raster::Bitmap& image, const GdiLetters& lett
 
 }  // namespace
 
-ShapeControl::ShapeControl(Colour colour, TableView& table) : colour_(colour) {
+ShapeControl::ShapeControl(Colour colour, TableView& table) : Control(table), colour_(colour) {
   create(L"TombrelloBar", kControlStyle, table.handle());
 }
 
-void ShapeControl::fit(const Area& area, const TableView& table) {
-  const PixelRect place = table.geometry().pixels(area);
+void ShapeControl::fit(const Area& area) {
+  const PixelRect place = table_.geometry().pixels(area);
   move_to(handle(), place);
   if (place.empty()) return;
   const Drawing bar =
       bar_with_tick(colour_, static_cast<float>(place.width()), static_cast<float>(place.height()));
-  put(buffer_, raster::rasterise(bar, place.width(), place.height()), table.letters(), kFelt);
-  InvalidateRect(handle(), nullptr, FALSE);
+  put(buffer_, raster::rasterise(bar, place.width(), place.height()), table_.letters(), kFelt);
+  repaint();
 }
 
 LRESULT ShapeControl::message(UINT message, WPARAM w, LPARAM l) {
-  switch (message) {
-    case WM_NCHITTEST:
-      return HTTRANSPARENT;
-    case WM_ERASEBKGND:
-      return 1;
-    case WM_PAINT:
-      show(handle(), buffer_);
-      return 0;
-    default:
-      return NativeWindow::message(message, w, l);
-  }
+  return message == WM_NCHITTEST ? HTTRANSPARENT : PaintedWindow::message(message, w, l);
 }
 
 PictureControl::PictureControl(ControlId id, Picture picture, TableView& table,
                                WindowEvents& events)
-    : id_(id), picture_(picture), table_(table), events_(events) {
+    : Control(table), id_(id), picture_(picture), events_(events) {
   create(L"TombrelloPicture", kControlStyle, table.handle());
 }
 
-void PictureControl::fit(const Area& area, const TableView& table) {
-  move_to(handle(), table.geometry().picture_pixels(area));
-  InvalidateRect(handle(), nullptr, FALSE);
+void PictureControl::fit(const Area& area) {
+  move_to(handle(), table_.geometry().picture_pixels(area));
+  repaint();
 }
 
 // Not before it is seen: a window that is dragged larger takes many sizes.
-void PictureControl::paint() {
+void PictureControl::paint(HDC dc, const RECT& stale) {
   const PixelRect place = client_pixels(handle());
   const painting::PixelSize size{place.width(), place.height()};
   if (buffer_.memory().size != size) {
-    put(buffer_, table_.pictures().rendered({picture_, false, false, size}).image, table_.letters(),
+    const Drawing drawing = table_.pictures().vectors(picture_);
+    put(buffer_, raster::rasterise(drawing, size.width, size.height), table_.letters(),
         table_.surface().background());
   }
-  show(handle(), buffer_);
+  buffer_.show(dc, stale);
 }
 
-void PictureControl::shown(bool visible) {
-  if (visible) SetFocus(handle());
+void PictureControl::set_shown(bool shown) {
+  Control::set_shown(shown);
+  if (shown) {
+    take_keyboard();
+  } else {
+    buffer_.drop();
+  }
 }
 
 LRESULT PictureControl::message(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
-    case WM_ERASEBKGND:
-      return 1;
-    case WM_PAINT:
-      paint();
-      return 0;
     case WM_LBUTTONDOWN:
       SetFocus(handle());
       return 0;
@@ -143,7 +127,7 @@ LRESULT PictureControl::message(UINT message, WPARAM w, LPARAM l) {
       events_.control_key_pressed(id_);
       return 0;
     default:
-      return NativeWindow::message(message, w, l);
+      return PaintedWindow::message(message, w, l);
   }
 }
 

@@ -7,37 +7,38 @@
 namespace tombrello::windows {
 
 /// A bar that invites a press, which is a press on the table under it.
-class ShapeControl : public NativeWindow, public Control {
+class ShapeControl : public PaintedWindow, public Control {
  public:
   ShapeControl(Colour colour, TableView& table);
-  HWND window() const override { return handle(); }
-  void fit(const Area& area, const TableView& table) override;
+  void fit(const Area& area) override;
 
  protected:
+  HWND window() const override { return handle(); }
   LRESULT message(UINT message, WPARAM w, LPARAM l) override;
+  void paint(HDC dc, const RECT& stale) override { buffer_.show(dc, stale); }
 
  private:
   Colour colour_;
   BackBuffer buffer_;
 };
 
-/// A picture that can be clicked, and that takes the keyboard while it shows.
-class PictureControl : public NativeWindow, public Control {
+/// A picture that can be clicked, and that takes the keyboard while it shows. Its pixels are kept
+/// no longer than that.
+class PictureControl : public PaintedWindow, public Control {
  public:
   PictureControl(ControlId id, Picture picture, TableView& table, WindowEvents& events);
-  HWND window() const override { return handle(); }
-  void fit(const Area& area, const TableView& table) override;
-  void shown(bool visible) override;
+  void fit(const Area& area) override;
+  void set_shown(bool shown) override;
+  bool rests_keyboard() const override { return true; }
 
  protected:
+  HWND window() const override { return handle(); }
   LRESULT message(UINT message, WPARAM w, LPARAM l) override;
+  void paint(HDC dc, const RECT& stale) override;
 
  private:
-  void paint();
-
   ControlId id_;
   Picture picture_;
-  TableView& table_;
   WindowEvents& events_;
   BackBuffer buffer_;
 };

@@ -55,6 +55,25 @@ std::optional<Key> key_of(WPARAM key) {
   }
 }
 
+std::optional<WORD> scrolling_by(WPARAM key) {
+  switch (key) {
+    case VK_UP:
+      return SB_LINEUP;
+    case VK_DOWN:
+      return SB_LINEDOWN;
+    case VK_PRIOR:
+      return SB_PAGEUP;
+    case VK_NEXT:
+      return SB_PAGEDOWN;
+    case VK_HOME:
+      return SB_TOP;
+    case VK_END:
+      return SB_BOTTOM;
+    default:
+      return std::nullopt;
+  }
+}
+
 // These go on while the key is held.
 bool moves_mark(Key key) {
   return key != Key::enter && key != Key::space && key != Key::help && key != Key::escape;
@@ -167,6 +186,18 @@ bool TableView::key(UINT message, WPARAM pressed, LPARAM l) {
   return true;
 }
 
+// A panel takes no keyboard: while it shows, those keys of the table that scroll are its.
+bool TableView::scrolls_panel(WPARAM key) const {
+  const std::optional<WORD> how = scrolling_by(key);
+  HWND panel = nullptr;
+  do {
+    panel = FindWindowExW(handle(), panel, kPanelKind, nullptr);
+  } while (panel != nullptr && !IsWindowVisible(panel));
+  if (!how || panel == nullptr) return false;
+  SendMessageW(panel, WM_VSCROLL, *how, 0);
+  return true;
+}
+
 bool TableView::take_key_from_elsewhere(WPARAM pressed) {
   const std::optional<Key> key = key_of(pressed);
   if (key != Key::help && key != Key::escape) return false;
@@ -184,7 +215,9 @@ void TableView::pressed(Button button, LPARAM place) {
   events_.pressed(button, point.x, point.y);
 }
 
+// The system also tells of a move when what lies under the pointer has changed.
 void TableView::moved(LPARAM place) {
+  if (std::exchange(last_move_, place) == place) return;
   const Point point = logical(place);
   events_.moved(point.x, point.y);
 }
@@ -230,6 +263,8 @@ LRESULT TableView::message(UINT message, WPARAM w, LPARAM l) {
       moved(l);
       return 0;
     case WM_KEYDOWN:
+      if (scrolls_panel(w) || key(message, w, l)) return 0;
+      break;
     case WM_KEYUP:
       if (key(message, w, l)) return 0;
       break;

@@ -53,6 +53,7 @@ class TableView : public NativeWindow {
   void pressed(Button button, LPARAM place);
   void moved(LPARAM place);
   bool key(UINT message, WPARAM key, LPARAM l);
+  bool scrolls_panel(WPARAM key) const;
   void repaint_mark();
   bool show_pointer(HWND under) const;
   Point logical(LPARAM place) const;
@@ -69,9 +70,13 @@ class TableView : public NativeWindow {
   std::optional<Area> mark_;
   AccessibleTable* accessible_ = nullptr;  ///< made when somebody asks for it
   PointerShape pointer_ = PointerShape::arrow;
+  LPARAM last_move_ = -1;  ///< where the pointer was last
   std::function<void()> follower_;
   std::function<void()> first_paint_;
 };
+
+/// The kind of window that the keys scroll while it lies over the table.
+inline constexpr const wchar_t* kPanelKind = L"TombrelloPanel";
 
 /// Sent to a text field whose text has changed.
 inline constexpr UINT kTextChanged = WM_APP + 1;
