@@ -2,31 +2,23 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <array>
 
+#include "bench/some_hand.h"
 #include "headless/headless_window.h"
 #include "pictures/pictures.h"
 #include "qt/desktop_window.h"
 #include "shell/mark.h"
-#include "tools/simulation/simulation.h"
 
 namespace tombrello {
 namespace {
 
 State some_turn() {
-  Simulation simulation(ScriptKind::melder, 1);
-  simulation.play_hand(40, false);
-  State s = simulation.state();
-  s.nomi = {"TU", "OVEST", "NORD", "EST"};
-  for (int k = s.n_mano[1] + 1; k <= kHandSlots; ++k) {
-    s.mano[1][k] = static_cast<std::int16_t>(7 * k);
-  }
-  s.n_mano[1] = kHandSlots;
+  State s = some_hand();
   s.di_turno = 1;
   s.ha_pescato = true;
   s.azione = kNoAction;
-  s.phase = Phase::hand;
   return s;
 }
 
@@ -90,11 +82,3 @@ BENCHMARK(move_by_key)->Args({3840, 2160})->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace tombrello
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

@@ -19,8 +19,8 @@ using Seconds = std::chrono::duration<double>;
 
 void ChooseATune(benchmark::State& state) {
   setenv("SDL_AUDIODRIVER", "dummy", 1);
-  SdlAudio audio(
-      TOMBRELLO_ROOT "/assets", [] {}, [] {}, 1);
+  devices::Audio audio(
+      sdl_system(TOMBRELLO_ROOT "/assets", [] {}), [] {}, 1);
   audio.start();
   double most = 0;
   int count = 0;

@@ -2,37 +2,23 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
 #include <array>
 #include <chrono>
 
+#include "bench/some_hand.h"
 #include "headless/headless_window.h"
 #include "pictures/pictures.h"
 #include "qt/canvas.h"
 #include "qt/geometry.h"
 #include "table/painted_table.h"
-#include "tools/simulation/simulation.h"
 
 namespace tombrello {
 using namespace art;
 using namespace qt;
 namespace {
-
-// A hand that has come some way, with a full fan for seat 1.
-State some_hand() {
-  Simulation simulation(ScriptKind::melder, 1);
-  simulation.play_hand(40, false);
-  State state = simulation.state();
-  state.nomi = {"TU", "OVEST", "NORD", "EST"};
-  for (int k = state.n_mano[1] + 1; k <= kHandSlots; ++k) {
-    state.mano[1][k] = static_cast<std::int16_t>(7 * k);
-  }
-  state.n_mano[1] = kHandSlots;
-  return state;
-}
 
 class Screen {
  public:
@@ -44,7 +30,6 @@ class Screen {
         window_(timer_),
         table_(state_, places_, window_) {
     window_.surface().set_background(kFelt);
-    state_.phase = Phase::hand;
     table_.repaint();
     window_.surface().take_changes();
     paint(geometry_.table());
@@ -130,11 +115,3 @@ BENCHMARK(first_paint_of_table)
 
 }  // namespace
 }  // namespace tombrello
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

@@ -15,7 +15,9 @@ void run(const std::shared_ptr<typename Device::Box>& box, Make make) {
   try {
     std::thread([box, make = std::move(make)]() mutable {
       try {
-        Device::serve(*box, *make());
+        if (box->await_call()) {
+          if (const auto player = make()) Device::serve(*box, *player);
+        }
       } catch (const std::exception&) {
         // Out of memory: from here on it is silent.
       }
@@ -31,17 +33,13 @@ void run(const std::shared_ptr<typename Device::Box>& box, Make make) {
 
 Audio::Audio(System system, std::function<void()> wake, unsigned seed)
     : system_(std::move(system)),
-      wave_(std::move(system_.beep), seed),
+      wave_(wake, std::move(system_.beep), seed),
       sequencer_(std::move(wake), system_.missing_package) {}
 
 Audio::~Audio() {
-  {
-    const std::lock_guard lock(sequencer_.box()->mutex);
-    sequencer_.box()->wake = nullptr;
-  }
-  if (!started_) return;
   sequencer_.box()->ask_to_leave();
   wave_.box()->ask_to_leave();
+  if (!started_) return;
   const auto latest = std::chrono::steady_clock::now() + kPatience;
   sequencer_.box()->await_finish(latest);
   wave_.box()->await_finish(latest);
@@ -54,6 +52,7 @@ void Audio::start() {
 }
 
 void Audio::deliver() {
+  wave_.deliver();
   const int code = sequencer_.take_done();
   if (code != 0 && events_ != nullptr) events_->media_done(code);
 }

@@ -9,7 +9,8 @@
 
 namespace tombrello::devices {
 
-/// What a system brings. The players are made on threads of their own, and end there.
+/// What a system brings. The players are made on threads of their own, when something is to be
+/// heard for the first time, and end there; null where there are none.
 struct System {
   std::function<std::unique_ptr<WavePlayer>()> waves;
   std::function<std::unique_ptr<TunePlayer>()> tunes;
@@ -40,7 +41,7 @@ class Audio {
   /// the first do nothing.
   void start();
 
-  /// Tells the events how a tune is done, if one is.
+  /// Tells the events how a tune is done, if one is, and beeps for a beep that was lost.
   void deliver();
 
  private:

@@ -31,7 +31,8 @@ class Sequencer : public MediaControl {
     std::string file;  ///< what that command wants to hear; empty for silence
     int done = 0;      ///< number of the last play that came to its end, or couldn't begin
     int code = 0;      ///< how that went, as `MediaEvents` has it
-    std::function<void()> wake;
+
+    bool asked() const override { return !file.empty(); }
   };
 
   /// `wake` is called from another thread and must only post; `take_done` is to follow from it.

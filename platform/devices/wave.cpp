@@ -14,8 +14,9 @@ constexpr const char* kBeep = "sounds/beep.wav";
 
 }  // namespace
 
-Wave::Wave(std::function<void()> system_beep, unsigned seed)
+Wave::Wave(std::function<void()> wake, std::function<void()> system_beep, unsigned seed)
     : system_beep_(std::move(system_beep)) {
+  box_->wake = std::move(wake);
   box_->chance.seed(seed);
 }
 
@@ -34,13 +35,28 @@ void Wave::command(Command command) {
   }
 }
 
+// Whether the first can be heard turns out when it is to be; one right after it doesn't wait for
+// that.
 void Wave::beep() {
   const bool heard = [this] {
     const std::lock_guard lock(box_->mutex);
-    return box_->beeps && !box_->finished;
+    const bool hopeful = box_->beep != Beep::missing && !box_->finished;
+    if (box_->beep == Beep::untried) box_->beep = Beep::missing;
+    return hopeful;
   }();
   if (heard) return post({kBeep, true});
   if (system_beep_) system_beep_();
+}
+
+// A file that is only opened is no reason to have a device.
+bool Wave::Box::asked() const {
+  return std::any_of(jobs.begin(), jobs.end(), [](const Job& job) { return job.play; });
+}
+
+void Wave::Box::miss(const std::vector<Job>& missed) {
+  if (std::find(missed.begin(), missed.end(), Job{kBeep, true}) == missed.end()) return;
+  beep_lost = true;
+  if (wake) wake();
 }
 
 void Wave::post(Job job) {
@@ -51,14 +67,20 @@ void Wave::post(Job job) {
   box_->changed.notify_all();
 }
 
+void Wave::deliver() {
+  const bool lost = [this] {
+    const std::lock_guard lock(box_->mutex);
+    return std::exchange(box_->beep_lost, false);
+  }();
+  if (lost && system_beep_) system_beep_();
+}
+
 void Wave::serve(Box& box, WavePlayer& player) {
-  if (!player.wake()) return;
-  bool awake = true;
-  bool beeps = player.takes(kBeep) > 0;
+  bool awake = false;
+  bool stood = false;
   std::map<std::string, std::size_t> last;  // take of each sound
   std::unique_lock lock(box.mutex);
-  box.beeps = beeps;
-  const auto called = [&] { return box.leaving || !box.jobs.empty(); };
+  const auto called = [&] { return box.leaving || box.asked(); };
   for (;;) {
     if (awake && !box.changed.wait_for(lock, kRest, called)) {
       lock.unlock();
@@ -71,7 +93,8 @@ void Wave::serve(Box& box, WavePlayer& player) {
     const auto jobs = std::exchange(box.jobs, {});
     lock.unlock();
     if (!awake) awake = player.wake();
-    if (awake) beeps = player.takes(kBeep) > 0;
+    stood = stood || awake;
+    const bool beeps = awake && player.takes(kBeep) > 0;
     for (const Job& job : jobs) {
       const std::size_t takes = awake ? player.takes(job.file) : 0;
       if (takes == 0 || !job.play) continue;
@@ -80,7 +103,9 @@ void Wave::serve(Box& box, WavePlayer& player) {
       player.play(job.file, take);
     }
     lock.lock();
-    box.beeps = beeps && awake;
+    box.beep = beeps ? Beep::heard : Beep::missing;
+    if (!beeps) box.miss(jobs);
+    if (!stood) return;  // that is found out once
   }
 }
 

@@ -38,14 +38,23 @@ class Wave : public MediaControl, public Beeper {
     bool play;
     bool operator==(const Job&) const = default;
   };
+  /// `heard`: it is loaded, and there is a device. `missing`: it can't be, or that isn't known yet
+  /// of the first one that was asked for.
+  enum class Beep { untried, heard, missing };
   struct Box : devices::Box {
-    std::vector<Job> jobs;    ///< each at most once, so that they stay few if nobody takes them
-    bool beeps = false;       ///< the beep is loaded, and there is a device
+    std::vector<Job> jobs;  ///< each at most once, so that they stay few if nobody takes them
+    Beep beep = Beep::untried;
+    bool beep_lost = false;   ///< one that was asked for couldn't be heard
     std::minstd_rand chance;  ///< the thread's own: which take of a sound is heard
+
+    bool asked() const override;
+    void give_up() override { miss(jobs); }
+    void miss(const std::vector<Job>& missed);  ///< under the lock: the game hears of a beep
   };
 
+  /// `wake` is called from another thread and must only post; `deliver` is to follow from it.
   /// `system_beep` stands in where nothing can be played; from `seed` comes the order of takes.
-  Wave(std::function<void()> system_beep, unsigned seed);
+  Wave(std::function<void()> wake, std::function<void()> system_beep, unsigned seed);
 
   void set_file_name(const std::string& name) override { file_name_ = name; }
   void command(Command command) override;
@@ -53,6 +62,8 @@ class Wave : public MediaControl, public Beeper {
   void set_opening_option(int) override {}
   void set_start_option(int) override {}
   void beep() override;
+  /// The system's beep for one that couldn't be heard.
+  void deliver();
 
   const std::shared_ptr<Box>& box() const { return box_; }
   /// What its thread does.

@@ -13,10 +13,12 @@ namespace tombrello {
 class SilentMedia : public MediaControl {
  public:
   std::vector<std::string> log;
+  std::string missing;  ///< the package that it says it lacks
 
   /// What has been written down since the last call.
   std::vector<std::string> take() { return std::exchange(log, {}); }
 
+  std::string missing_package() const override { return missing; }
   void set_file_name(const std::string& name) override { log.push_back("file " + name); }
   void command(Command command) override {
     static constexpr const char* words[] = {"open", "close", "play"};

@@ -10,6 +10,8 @@
 #include <cstdlib>
 #include <random>
 
+#include "qt/audio/loaded_system.h"
+#include "qt/audio/sound_module.h"
 #include "qt/session_bus.h"
 
 namespace tombrello::qt {
@@ -57,6 +59,10 @@ std::filesystem::path program_folder() {
   return is_installed() ? TOMBRELLO_DATA : path_of(QCoreApplication::applicationDirPath());
 }
 
+std::filesystem::path sound_module() {
+  return (is_installed() ? TOMBRELLO_LIBRARIES : program_folder()) / kSoundModule;
+}
+
 // A folder that was moved has a desktop entry beside the program that is to hear of it.
 void tell_desktop_entry() {
   const QString script = QCoreApplication::applicationDirPath() + "/desktop-entry.sh";
@@ -85,8 +91,8 @@ Desktop::Desktop(int& argc, char** argv, painting::PictureSource pictures, const
       archive_(program_folder(), user_folder(),
                is_installed() ? DiskArchive::Keep::with_user : DiskArchive::Keep::beside_program),
       audio_(
-          program_folder(), [this] { wake_for_audio(); }, QApplication::beep,
-          std::random_device()()) {
+          loaded_system(sound_module(), program_folder(), QApplication::beep),
+          [this] { wake_for_audio(); }, std::random_device()()) {
   qInstallMessageHandler(messages_);
   window_.after_first_paint([this] {
     audio_.start();

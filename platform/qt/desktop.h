@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "qt/audio/sdl_audio.h"
+#include "devices/audio.h"
 #include "qt/desktop_timer.h"
 #include "qt/desktop_window.h"
 #include "qt/disk_archive.h"
@@ -56,7 +56,7 @@ class Desktop {
   DesktopWindow window_;
   DesktopTimer timer_;
   DiskArchive archive_;
-  SdlAudio audio_;
+  devices::Audio audio_;
 };
 
 }  // namespace tombrello::qt

@@ -17,8 +17,7 @@ player=giocatore
 settings=$root/home/$player/.local/share/tombrello/config.zvq
 trap 'umount -l "$root/proc" "$root/dev" 2>/dev/null || true
       rm -rf --one-file-system "$work"' EXIT
-say() { echo "prove: $*"; }
-fail() { say "FAILED: $*" >&2 && exit 1; }
+. "$(dirname "$0")/playing.sh"
 
 # A bare system.
 say 'a bare Debian 12'
@@ -51,30 +50,11 @@ list() {
 }
 list >"$work/before"
 
-# A screen outside of it.
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 800x680x24 -nolisten tcp -noreset 2>/dev/null)
-read -r display <&3
-export DISPLAY=:$display
-cat >"$work/rc.xml" <<'END'
-<openbox_config xmlns="http://openbox.org/3.4/rc"><keyboard>
-<keybind key="A-F4"><action name="Close"/></keybind></keyboard></openbox_config>
-END
-openbox --config-file "$work/rc.xml" 2>/dev/null &
-
 # The window fills the screen: the table has its own size, and stands some way down.
 readonly down=55 felt=007000
 press() { xdotool mousemove $(($1 - 1)) $((down + $2)) mousemove "$1" $((down + $2)) click "${3:-1}"; }
-keys() { for key in "$@"; do xdotool key "$key" && sleep 0.2; done; }
 colour() { import -window root -crop "1x1+$1+$((down + $2))" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}' | tail -n 1 | tr -d '#'; }
 shows_card() { [ "$(colour "$1" "$2")" != $felt ]; }
-until_true() { # SECONDS COMMAND...
-  local end=$((SECONDS + $1))
-  shift
-  until "$@"; do
-    [ $SECONDS -lt $end ] || fail "in vain waited for: $*"
-    sleep 0.2
-  done
-}
 picture() { import -window root "$shots/proved-$1.png"; }
 
 runs() { pgrep -x tombrello >/dev/null; }
@@ -90,24 +70,6 @@ start() {
 stop() {
   keys alt+F4
   until_true 10 eval '! runs'
-}
-# Up to the cards in the hand, at the quickest pace.
-deal() {
-  press 400 300
-  keys alt+o Down Right Up Return
-  for _ in {1..60}; do
-    shows_card 258 530 && break
-    press 400 300
-    keys Return
-  done
-}
-has_drawn() { press 430 300 && sleep 0.3 && shows_card 562 530; }
-has_discarded() { press 260 530 && sleep 0.3 && ! shows_card 562 530; }
-play_turn() {
-  until_true 60 shows_card 500 530
-  until_true 120 has_drawn
-  picture "$1"
-  until_true 10 has_discarded
 }
 # What is heard is written down; silence is zeros.
 music_sounds() { [ "$(tr -d '\0' <"$root/tmp/heard" | head -c 100000 | wc -c)" -eq 100000 ]; }
@@ -134,8 +96,7 @@ keys alt+m Down Return
 until_true 20 music_sounds
 keys alt+m Return
 keys alt+s Right Return
-deal
-play_turn turn
+play_turn picture turn
 stop
 [ "$(sed -n 6p "$settings" | tr -d ' \r')" = 0 ] || fail 'the rustle is not off'
 sed -n 9p "$settings" | grep -q '[1-9]' || fail 'no deck was kept'

@@ -9,32 +9,11 @@ wine=$(realpath "$(dirname "$0")/../../tools/windows/wine.sh")
 export WINEPREFIX=${WINEPREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/tombrello/wine}
 export TOMBRELLO_WINE_SECONDS=120 LC_ALL=C.UTF-8
 work=$(mktemp -d)
-say() { echo "windows: $*"; }
-fail() { say "FAILED: $*" >&2 && exit 1; }
-
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 800x680x24 -nolisten tcp -noreset 2>/dev/null)
-screen=$!
-read -r display <&3
-export DISPLAY=:$display
-cat >"$work/rc.xml" <<'END'
-<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse></mouse><keyboard>
-<keybind key="A-F4"><action name="Close"/></keybind></keyboard></openbox_config>
-END
-openbox --config-file "$work/rc.xml" >/dev/null 2>&1 &
-manager=$!
+. "$(dirname "$0")/playing.sh"
 trap 'timeout 30 wineserver -k || true; kill $manager $screen; rm -rf "$work"' EXIT
 
-until_true() { # SECONDS COMMAND...
-  local end=$((SECONDS + $1))
-  shift
-  until "$@"; do
-    [ $SECONDS -lt $end ] || fail "in vain waited for: $*"
-    sleep 0.2
-  done
-}
 window_of() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1 | grep .; }
 stands() { window_of "$1" >/dev/null; }
-keys() { for key in "$@"; do xdotool key "$key" && sleep 0.3; done; }
 # Where a point of the table is in the window, below its menu bar and above its line.
 in_window() { # X Y
   eval "$(xdotool getwindowgeometry --shell "$window")"
@@ -50,20 +29,6 @@ press() {
 shows_card() {
   read -r x y < <(in_window "$1" "$2")
   ! import -window "$window" -crop "1x1+$x+$y" -depth 8 txt:- | grep -q '#007000'
-}
-has_drawn() { press 430 300 && sleep 0.3 && shows_card 562 530; }
-has_discarded() { press 260 530 && sleep 0.3 && ! shows_card 562 530; }
-play_turn() {
-  press 400 300
-  keys alt+o Down Right Up Return # the quickest pace
-  for _ in {1..60}; do
-    shows_card 258 530 && break
-    press 400 300
-    keys Return
-  done
-  until_true 60 shows_card 500 530
-  until_true 60 has_drawn
-  until_true 10 has_discarded
 }
 
 "$wine" cmd /c exit # its world is there

@@ -4,7 +4,8 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <csignal>
+#include <future>
+#include <optional>
 #include <random>
 #include <set>
 
@@ -35,6 +36,17 @@ struct Heard {
     audio.set_events(&ends);
   }
 
+  /// A device is had when something is to be heard, were it a file that isn't there.
+  void start() {
+    audio.start();
+    open(audio.wave(), "sounds/none.wav");
+    audio.wave().command(Command::play);
+    ASSERT_TRUE(disk.await([this] {
+      const std::lock_guard lock(audio.wave().box()->mutex);
+      return audio.wave().box()->beep == devices::Wave::Beep::heard;
+    }));
+    disk.pass(0.2);
+  }
   void open(MediaControl& device, const std::string& file) {
     device.command(Command::close);
     device.set_file_name(file);
@@ -56,13 +68,6 @@ struct Heard {
     }));
     disk.pass(0.05);
   }
-  void await_wave_device() {
-    ASSERT_TRUE(disk.await([this] {
-      const std::lock_guard lock(audio.wave().box()->mutex);
-      return audio.wave().box()->beeps;
-    }));
-    disk.pass(0.2);
-  }
   /// Waits for the end of what plays; false if it doesn't come.
   bool await_end() {
     return disk.await([this] { return woken.exchange(false); });
@@ -72,27 +77,17 @@ struct Heard {
   Ends ends;
   std::atomic<bool> woken = false;
   std::atomic<int> system_beeps = 0;
-  SdlAudio audio{disk.folder(), [this] { woken = true; }, [this] { ++system_beeps; }, 1};
+  devices::Audio audio{sdl_system(disk.folder(), [this] { ++system_beeps; }),
+                       [this] { woken = true; }, 1};
 };
 
-TEST(Waves, WhatWasToldBeforeTheDeviceStandsIsHeardOnceItDoes) {
-  Heard heard(6);
-  heard.open(heard.audio.wave(), "sounds/carta.wav");
+TEST(Waves, WhatWasToldBeforeTheDeviceStoodIsHeardAndClosingLetsItFinish) {
+  Heard heard(2);
+  heard.open(heard.audio.wave(), "sounds/Notify.wav");
   heard.audio.wave().command(Command::play);
   EXPECT_EQ(heard.disk.now(), 0) << "the device was opened before it may be";
   heard.audio.start();
-  heard.await_wave_device();
   heard.await_waves();
-  heard.disk.pass(0.3);
-  EXPECT_EQ(onsets(heard.disk.heard()).size(), 1U);
-}
-
-TEST(Waves, ClosingLetsASoundFinishAndTheNextOneBegins) {
-  Heard heard(2);
-  heard.audio.start();
-  heard.await_wave_device();
-  heard.open(heard.audio.wave(), "sounds/Notify.wav");
-  heard.play_wave();
   heard.open(heard.audio.wave(), "sounds/carta.wav");
   heard.disk.pass(1.2);
   heard.play_wave();
@@ -114,8 +109,7 @@ TEST(Waves, ASoundWithSeveralTakesIsNeverHeardAlikeTwiceRunning) {
                                sounds::kRate);
     heard.disk.put("sounds/" + sounds::rustle_file(take), sounds::wave_file(tone));
   }
-  heard.audio.start();
-  heard.await_wave_device();
+  heard.start();
   heard.open(heard.audio.wave(), "sounds/carta.wav");
   constexpr std::size_t plays = 12;
   for (std::size_t i = 0; i < plays; ++i) {
@@ -147,8 +141,7 @@ TEST(Waves, FilesThatAreNoneAreSilent) {
   slow[42] = 0x60;
   heard.disk.put("sounds/slow.wav", slow + std::string(7 << 20, '\1'));
   std::filesystem::create_directories(heard.disk.folder() / "sounds/folder.wav");
-  heard.audio.start();
-  heard.await_wave_device();
+  heard.start();
   for (const char* name : {"broken", "empty", "slow", "folder", "missing"}) {
     heard.open(heard.audio.wave(), std::string("sounds/") + name + ".wav");
     heard.audio.wave().command(Command::play);
@@ -221,58 +214,51 @@ TEST(Tunes, TheEndOfAnOlderPlayMeansNothing) {
   EXPECT_TRUE(heard.ends.codes.empty());
 }
 
-TEST(Tunes, FilesThatAreNoneAreSilentAndSaidToBe) {
+// A font that lacks an instrument takes another; a note that never ends is ended after a while.
+TEST(Tunes, EachFileComesToItsEndOrIsSaidToBeNone) {
   Heard heard(6);
   const std::string whole = short_tune("a4:2 r", 120);
-  heard.disk.put("music/empty.mid", "");
-  heard.disk.put("music/broken.mid", whole.substr(0, whole.size() / 2));
-  heard.disk.put("music/text.mid", "MThd? No.");
-  heard.disk.put("music/brief.mid",
-                 std::string("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\4\0\xFF\x2F\0", 26));
-  heard.disk.put("music/huge.mid", whole);
-  std::filesystem::resize_file(heard.disk.folder() / "music/huge.mid", 1UL << 33);
-  std::filesystem::create_directories(heard.disk.folder() / "music/folder.mid");
-  heard.audio.start();
-  for (const char* name : {"empty", "broken", "text", "brief", "huge", "folder", "missing"}) {
-    heard.play(std::string("music/") + name + ".mid");
-    ASSERT_TRUE(heard.await_end()) << name;
-    heard.audio.deliver();
-    EXPECT_EQ(std::exchange(heard.ends.codes, {}), std::vector<int>{MediaEvents::kFailed}) << name;
-  }
-  EXPECT_EQ(onsets(heard.disk.heard()).size(), 0U);
-  heard.play("music/low.mid");
-  EXPECT_TRUE(heard.await_end());
-}
-
-TEST(Tunes, AnInstrumentThatNobodyHasIsReplacedWithoutAWord) {
-  Heard heard(6);
-  heard.disk.put("music/odd.mid",
-                 std::string("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\x13"
-                             "\0\xB0\0\x33\0\xC0\x0A\0\x90\x45\x60\x40\x80\x45\0\0\xFF\x2F\0",
-                             41));
-  testing::internal::CaptureStderr();
-  heard.audio.start();
-  heard.play("music/odd.mid");
-  EXPECT_TRUE(heard.await_end());
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-  heard.audio.deliver();
-  EXPECT_EQ(heard.ends.codes, std::vector<int>{MediaEvents::kEnded});
-}
-
-TEST(Tunes, ANoteThatNeverEndsIsEnded) {
-  Heard heard(6);
-  std::string stuck = short_tune("a4:2 r", 120);
+  std::string stuck = whole;
   const auto off = stuck.find('\x80', stuck.find("MTrk", 40));
   stuck[off] = '\xb0';  // the end of the note becomes a controller without effect
   stuck[off + 1] = 3;
-  const auto all_off = stuck.rfind('\xb0');
-  stuck[all_off + 1] = 3;
-  heard.disk.put("music/stuck.mid", stuck);
+  stuck[stuck.rfind('\xb0') + 1] = 3;  // and so does that of all notes
+  heard.disk.put("music/huge.mid", whole);
+  std::filesystem::resize_file(heard.disk.folder() / "music/huge.mid", 1UL << 33);
+  std::filesystem::create_directories(heard.disk.folder() / "music/folder.mid");
+  const auto track = [](const std::string& events) {
+    const char size = static_cast<char>(events.size());
+    return std::string("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0", 21) + size + events;
+  };
+  const struct {
+    const char* name;
+    std::optional<std::string> bytes;
+    int code;
+  } kFiles[] = {
+      {"empty", "", MediaEvents::kFailed},
+      {"broken", whole.substr(0, whole.size() / 2), MediaEvents::kFailed},
+      {"text", "MThd? No.", MediaEvents::kFailed},
+      {"brief", track({"\0\xFF\x2F\0", 4}), MediaEvents::kFailed},
+      {"huge", {}, MediaEvents::kFailed},
+      {"folder", {}, MediaEvents::kFailed},
+      {"missing", {}, MediaEvents::kFailed},
+      {"odd", track({"\0\xB0\0\x33\0\xC0\x0A\0\x90\x45\x60\x40\x80\x45\0\0\xFF\x2F\0", 19}),
+       MediaEvents::kEnded},
+      {"stuck", stuck, MediaEvents::kEnded},
+  };
+  testing::internal::CaptureStderr();
   heard.audio.start();
-  heard.play("music/stuck.mid");
-  ASSERT_TRUE(heard.await_end());
-  heard.audio.deliver();
-  EXPECT_EQ(heard.ends.codes, std::vector<int>{1});
+  for (const auto& [name, bytes, code] : kFiles) {
+    const std::string file = std::string("music/") + name + ".mid";
+    if (bytes) heard.disk.put(file, *bytes);
+    heard.play(file);
+    ASSERT_TRUE(heard.await_end()) << name;
+    heard.audio.deliver();
+    EXPECT_EQ(std::exchange(heard.ends.codes, {}), std::vector<int>{code}) << name;
+    EXPECT_TRUE(code == MediaEvents::kEnded || onsets(heard.disk.heard()).empty()) << name;
+  }
+  EXPECT_FALSE(onsets(heard.disk.heard()).empty());
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST(Tunes, CommandsInAnyOrderLeaveItWhole) {
@@ -302,17 +288,63 @@ TEST(NoAudio, WithoutADeviceTheSystemBeepsAndAllElseIsSilent) {
   Heard heard(1);
   setenv("SDL_AUDIODRIVER", "none such", 1);
   heard.audio.start();
+  heard.audio.beeper().beep();
   ASSERT_TRUE(heard.disk.await([&] {
     const std::lock_guard lock(heard.audio.wave().box()->mutex);
     return heard.audio.wave().box()->finished;
   }));
+  heard.audio.deliver();
+  EXPECT_EQ(heard.system_beeps, 1);
   heard.play("music/low.mid");
   heard.open(heard.audio.wave(), "sounds/carta.wav");
   heard.audio.wave().command(Command::play);
   heard.audio.beeper().beep();
-  EXPECT_EQ(heard.system_beeps, 1);
+  EXPECT_EQ(heard.system_beeps, 2);
   heard.audio.deliver();
   EXPECT_TRUE(heard.ends.codes.empty());
+}
+
+/// Takes a while to say that there is nothing to play on.
+struct NoPlayer : devices::WavePlayer {
+  NoPlayer(std::promise<void>& asked, std::future<void> answer)
+      : asked_(asked), answer_(std::move(answer)) {}
+  bool wake() override {
+    asked_.set_value();
+    answer_.wait();
+    return false;
+  }
+  std::size_t takes(const std::string&) override { return 0; }
+  void play(const std::string&, std::size_t) override {}
+
+ private:
+  std::promise<void>& asked_;
+  std::future<void> answer_;
+};
+
+TEST(NoAudio, ABeepThatNobodyTakesIsTheSystems) {
+  for (const bool no_library : {true, false}) {
+    SCOPED_TRACE(no_library);
+    std::promise<void> asked, answer, woken;
+    int system_beeps = 0;
+    const auto make = [&]() -> std::unique_ptr<devices::WavePlayer> {
+      if (no_library) return nullptr;
+      return std::make_unique<NoPlayer>(asked, answer.get_future());
+    };
+    devices::Audio audio(
+        {make, [] { return nullptr; }, [&] { ++system_beeps; }}, [&] { woken.set_value(); }, 1);
+    audio.start();
+    if (!no_library) {  // it comes while a rustle is being asked for
+      audio.wave().set_file_name("sounds/carta.wav");
+      audio.wave().command(Command::open);
+      audio.wave().command(Command::play);
+      asked.get_future().wait();
+    }
+    audio.beeper().beep();
+    answer.set_value();
+    EXPECT_EQ(woken.get_future().wait_for(std::chrono::seconds(10)), std::future_status::ready);
+    audio.deliver();
+    EXPECT_EQ(system_beeps, 1);
+  }
 }
 
 TEST(NoAudio, AServerThatHangsHoldsNothingUp) {
@@ -327,12 +359,13 @@ TEST(NoAudio, AServerThatHangsHoldsNothingUp) {
   setenv("SDL_AUDIODRIVER", "pulseaudio", 1);
   setenv("PULSE_SERVER", ("unix:" + path).c_str(), 1);
   {
-    SdlAudio audio(
-        heard.disk.folder(), [] {}, [&] { ++heard.system_beeps; }, 1);
+    devices::Audio audio(
+        sdl_system(heard.disk.folder(), [&] { ++heard.system_beeps; }), [] {}, 1);
     audio.start();
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     for (int i = 0; i < 10'000; ++i) heard.open(audio.wave(), "sounds/carta.wav");
     audio.sequencer().command(Command::play);
+    audio.beeper().beep();  // who knows yet?
     audio.beeper().beep();
     const std::lock_guard lock(audio.wave().box()->mutex);
     EXPECT_FALSE(audio.wave().box()->finished) << "the server didn't hang: nothing was tried";
@@ -340,17 +373,6 @@ TEST(NoAudio, AServerThatHangsHoldsNothingUp) {
   }
   EXPECT_EQ(heard.system_beeps, 1);
   close(server);
-}
-
-TEST(Signals, TheProgramStillEndsWhenAskedTo) {
-  Heard heard(6);
-  heard.audio.start();
-  heard.await_wave_device();
-  for (const int signal : {SIGINT, SIGTERM}) {
-    struct sigaction action {};
-    ASSERT_EQ(sigaction(signal, nullptr, &action), 0);
-    EXPECT_EQ(action.sa_handler, SIG_DFL);
-  }
 }
 
 }  // namespace

@@ -15,16 +15,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 namespace files = std::filesystem;
 
-// The build of the program for Windows, if that is the one to be played, under wine.
-const char* const kWindows = std::getenv("TOMBRELLO_WINDOWS");
-
-#ifdef __SANITIZE_ADDRESS__
-constexpr int kPatience = 5;
-#else
-const int kPatience = kWindows == nullptr ? 1 : 3;
-#endif
-
+constexpr auto kPatience = std::chrono::minutes(1);
 constexpr const char* kScreenSize = "1024x768x24";
+constexpr const char* kCaption = "^Frassivo - Tombrello$";
 
 // Sound that goes nowhere.
 constexpr const char* kSilence = "pcm.!default {type null}\nctl.!default {type null}\n";
@@ -46,27 +39,12 @@ constexpr const char* kManagerFile = R"(<?xml version="1.0"?>
 }  // namespace
 
 void View::take(const std::string& line) {
+  told_.clear();
   std::istringstream words(line);
-  std::string kind;
-  std::getline(words, kind, '\t');
-  Told told;
   for (std::string word; std::getline(words, word, '\t');) {
     const auto equals = word.find('=');
-    told[word.substr(0, equals)] = word.substr(equals + 1);
+    told_[word.substr(0, equals)] = word.substr(equals + 1);
   }
-  told_[kind] = told;
-}
-
-const std::string* View::find(const std::string& key) const {
-  for (const auto& [kind, told] : told_) {
-    if (const auto found = told.find(key); found != told.end()) return &found->second;
-  }
-  return nullptr;
-}
-
-std::string View::text(const std::string& key) const {
-  const std::string* found = find(key);
-  return found == nullptr ? "" : *found;
 }
 
 std::vector<int> View::numbers(const std::string& key) const {
@@ -76,14 +54,8 @@ std::vector<int> View::numbers(const std::string& key) const {
   return list;
 }
 
-std::string View::everything() const {
-  std::string all;
-  for (const auto& [kind, told] : told_) {
-    for (const auto& [key, value] : told) {
-      if (key != "deck") all += key + '=' + value + ' ';
-    }
-  }
-  return all;
+bool View::shows(const std::string& on_table) const {
+  return text("texts").find(on_table) != std::string::npos;
 }
 
 int Shot::pixel(int x, int y) const {
@@ -93,29 +65,40 @@ int Shot::pixel(int x, int y) const {
 }
 
 // It goes with the test program, however that ends.
-std::unique_ptr<QProcess> DesktopSession::launch(const std::vector<std::string>& words) {
+std::unique_ptr<QProcess> DesktopSession::launch(const Words& words) {
   auto process = std::make_unique<QProcess>();
   process->setProcessEnvironment(environment);
   process->setChildProcessModifier([] {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    signal(SIGINT, SIG_DFL);  // ignored by whatever a script starts in the background
+    // Ignored by whatever a script starts in the background, or nohup.
+    signal(SIGINT, SIG_DFL);
+    signal(SIGHUP, SIG_DFL);
   });
   QStringList arguments;
   for (const auto& word : words) arguments << QString::fromStdString(word);
   const QString program = arguments.takeFirst();
   process->start(program, arguments);
-  if (process->waitForStarted(20000)) return process;
+  if (process->waitForStarted(60000)) return process;
   throw std::runtime_error(words[0] + " can't be run; tools/setup.sh check installs the tools");
 }
 
-Outcome DesktopSession::run(const std::vector<std::string>& words, const std::string& input) {
+Outcome DesktopSession::run(const Words& words, const std::string& input) {
   const auto process = launch(words);
   process->write(input.data(), static_cast<qint64>(input.size()));
   process->closeWriteChannel();
-  if (!process->waitForFinished(30000)) throw std::runtime_error(words[0] + " takes too long");
+  if (!process->waitForFinished(120000)) throw std::runtime_error(words[0] + " takes too long");
   return {process->exitStatus() == QProcess::NormalExit ? process->exitCode() : 128,
           process->readAllStandardOutput().toStdString(),
           process->readAllStandardError().toStdString()};
+}
+
+std::unique_ptr<QProcess> DesktopSession::serve(const Words& words, std::string& printed) {
+  auto server = launch(words);
+  while (!server->canReadLine()) {
+    if (!server->waitForReadyRead(60000)) throw std::runtime_error(words[0] + " doesn't start");
+  }
+  printed = server->readLine().trimmed().toStdString();
+  return server;
 }
 
 // The program's own ways alone decide: nothing of the machine's session reaches it.
@@ -131,6 +114,7 @@ void DesktopSession::SetUp() {
   for (const char* name : {"HOME", "XDG_RUNTIME_DIR"}) {
     environment.insert(name, QString::fromStdString(pattern));
   }
+  files::create_directory_symlink(files::path(TOMBRELLO).parent_path() / "music", folder / "music");
   environment.insert("LC_ALL", "C.UTF-8");
   environment.insert("SDL_AUDIODRIVER", "dummy");
   if (kWindows != nullptr) prepare_wine();
@@ -145,51 +129,59 @@ void DesktopSession::prepare_wine() {
   std::ofstream(folder / "silence") << kSilence;
 }
 
-std::vector<std::string> DesktopSession::under_wine(std::vector<std::string> words) {
-  words.insert(words.begin(), TOMBRELLO_WINE);
+DesktopSession::Words DesktopSession::under_wine(Words words) {
+  words.insert(words.begin(), TOMBRELLO_ROOT "/tools/windows/wine.sh");
   return words;
 }
 
+void DesktopSession::end(std::unique_ptr<QProcess>& process) {
+  if (!process) return;
+  process->kill();
+  process->waitForFinished(60000);
+  process.reset();
+}
+
 void DesktopSession::start_screen() {
-  screen_ = launch(
-      {"Xvfb", "-displayfd", "1", "-screen", "0", kScreenSize, "-nolisten", "tcp", "-noreset"});
-  while (!screen_->canReadLine()) {
-    if (!screen_->waitForReadyRead(20000)) throw std::runtime_error("Xvfb doesn't start");
-  }
-  environment.insert("DISPLAY", ":" + QString(screen_->readLine()).trimmed());
+  end(manager_);
+  end(screen_);
+  std::string number;
+  screen_ = serve(
+      {"Xvfb", "-displayfd", "1", "-screen", "0", kScreenSize, "-nolisten", "tcp", "-noreset"},
+      number);
+  environment.insert("DISPLAY", QString::fromStdString(":" + number));
   std::ofstream(folder / "rc.xml") << kManagerFile;
   manager_ = launch({"openbox", "--config-file", folder / "rc.xml"});
-  const auto end = Clock::now() + Milliseconds(20000);
+  const auto end = Clock::now() + kPatience;
   while (xdo({"get_desktop"}).status != 0) {
     if (Clock::now() > end) throw std::runtime_error("openbox doesn't start");
   }
 }
 
 void DesktopSession::TearDown() {
-  if (HasFailure() && game) std::fputs((view.everything() + err + "\n").c_str(), stderr);
-  if (kWindows != nullptr) run({"wineserver", "-k"});
-  for (auto* process : {&game, &manager_, &screen_}) {
-    if (!*process) continue;
-    (*process)->kill();
-    (*process)->waitForFinished(5000);
-    process->reset();
+  if (HasFailure()) {
+    const std::string last = out.substr(out.size() - std::min<std::size_t>(out.size(), 1500));
+    std::fputs((last + err + "\n").c_str(), stderr);
   }
+  if (kWindows != nullptr) run({"wineserver", "-k"});
+  for (auto* process : {&game, &manager_, &screen_}) end(*process);
   std::error_code ignored;
   files::remove_all(folder, ignored);
 }
 
-void DesktopSession::start_quick(Quick quick) {
-  std::vector<std::string> numbers = {folder, std::to_string(quick.clock),
-                                      std::to_string(quick.deal), std::to_string(quick.turns)};
-  if (quick.rare != 0) numbers.push_back(std::to_string(quick.rare));
-  std::vector<std::string> words = {TOMBRELLO_QUICK};
+void DesktopSession::start_quick(Quick quick, const files::path& program, Words before) {
+  Words words = {program};
   if (kWindows != nullptr) {
     words = under_wine({kWindows + std::string("/tests/window/tombrello-quick.exe")});
   }
-  words.insert(words.end(), numbers.begin(), numbers.end());
+  words.insert(words.begin(), before.begin(), before.end());
+  words.push_back(program == TOMBRELLO_QUICK ? folder : program.parent_path());
+  for (const int number : {quick.clock, quick.deal, quick.turns, quick.rare}) {
+    words.push_back(std::to_string(number));
+  }
   start(words);
-  wait_until("the opening picture",
-             [](const View& v) { return v.number("opening") == 1 && v.number("ready") == 1; });
+  wait_until("the opening picture", [](const View& v) {
+    return v.number("opening") == 1 && v.number("front") == 1 && v.number("maximised") == 1;
+  });
 }
 
 // Nobody tells when it is ready for keys: the window manager does.
@@ -204,19 +196,17 @@ void DesktopSession::start_shipped(const files::path& within) {
              [&](const View&) { return xdo({"getactivewindow"}).out == window + '\n'; });
 }
 
-void DesktopSession::start(const std::vector<std::string>& words) {
+void DesktopSession::start(const Words& words) {
   view = {};
   read_ = 0;
   out.clear();
   err.clear();
   game = launch(words);
-  const auto end = Clock::now() + kPatience * Milliseconds(20000);
-  for (window.clear(); window.empty();) {
-    if (Clock::now() > end) throw std::runtime_error("no window: " + err);
-    window = xdo({"search", "--onlyvisible", "--name", "^Frassivo - Tombrello$"}).out;
+  wait_until("a window", [&](const View&) {
+    window = xdo({"search", "--onlyvisible", "--name", kCaption}).out;
     window = window.substr(0, window.find('\n'));
-    read_view();
-  }
+    return !window.empty();
+  });
 }
 
 void DesktopSession::listen(int milliseconds) {
@@ -234,8 +224,8 @@ void DesktopSession::read_view() {
   }
 }
 
-bool DesktopSession::comes_true(const std::function<bool(const View&)>& holds, Milliseconds most) {
-  const auto end = Clock::now() + kPatience * most;
+bool DesktopSession::comes_true(const Condition& holds, Milliseconds most) {
+  const auto end = Clock::now() + most;
   for (read_view(); !holds(view); read_view()) {
     if (game->state() == QProcess::NotRunning) throw std::runtime_error("it has ended: " + err);
     if (Clock::now() > end) return false;
@@ -243,9 +233,8 @@ bool DesktopSession::comes_true(const std::function<bool(const View&)>& holds, M
   return true;
 }
 
-void DesktopSession::wait_until(const std::string& what,
-                                const std::function<bool(const View&)>& holds, Milliseconds most) {
-  if (!comes_true(holds, most)) throw std::runtime_error("in vain waited for " + what);
+void DesktopSession::wait_until(const std::string& what, const Condition& holds) {
+  if (!comes_true(holds, kPatience)) throw std::runtime_error("in vain waited for " + what);
 }
 
 void DesktopSession::wait_for(const std::string& key, int value) {
@@ -253,82 +242,62 @@ void DesktopSession::wait_for(const std::string& key, int value) {
              [&](const View& v) { return v.has(key) && v.number(key) == value; });
 }
 
-Outcome DesktopSession::xdo(std::vector<std::string> words) {
+Outcome DesktopSession::xdo(Words words) {
   words.insert(words.begin(), "xdotool");
   return run(words);
 }
 
-void DesktopSession::find_size() {
-  std::istringstream lines(xdo({"getwindowgeometry", "--shell", window}).out);
-  for (std::string line; std::getline(lines, line);) {
-    if (line.starts_with("WIDTH=")) width_ = std::stoi(line.substr(6));
-    if (line.starts_with("HEIGHT=")) height_ = std::stoi(line.substr(7));
-  }
-  if (view.has("bar")) bar_ = view.number("bar");
-  if (view.has("line")) line_ = view.number("line");
-}
-
-DesktopSession::Place DesktopSession::place_of(float x, float y) const {
-  const double wide = width_;
-  const double high = height_ - bar_ - line_;
+DesktopSession::Place DesktopSession::place_of(float x, float y) {
+  std::string told = xdo({"getwindowgeometry", "--shell", window}).out;
+  std::replace(told.begin(), told.end(), '\n', '\t');
+  View size;
+  size.take(told);
+  const int bar = view.has("bar") ? view.number("bar") : 20;     // the menu bar above the table
+  const int line = view.has("line") ? view.number("line") : 24;  // the chronicle line below it
+  const double wide = size.number("WIDTH");
+  const double high = size.number("HEIGHT") - bar - line;
   const double scale = std::min(wide / 800, high / 600);
   return {static_cast<int>(std::lround((wide - 800 * scale) / 2 + x * scale)),
-          bar_ + static_cast<int>(std::lround((high - 600 * scale) / 2 + y * scale))};
+          bar + static_cast<int>(std::lround((high - 600 * scale) / 2 + y * scale))};
 }
 
 // A press acts on what the pointer's last move found: it always comes from a little beside.
-std::vector<std::string> DesktopSession::press_words(float x, float y, int button) {
-  const Place place = place_of(x, y);
-  const std::string row = std::to_string(place.y);
-  return {"mousemove", "--window", window, std::to_string(place.x - 1), row,
-          "mousemove", "--window", window, std::to_string(place.x),     row,
-          "click",     "--delay",  "2",    std::to_string(button)};
-}
-
-void DesktopSession::press(float x, float y, int button) {
-  find_size();
-  xdo(press_words(x, y, button));
-}
-
-void DesktopSession::move(float x, float y) {
-  find_size();
-  auto words = press_words(x, y, 1);
-  words.resize(words.size() - 4);
+void DesktopSession::point(const std::string& origin, Place to, int button) {
+  Words words;
+  for (const int beside : {1, 0}) {
+    words.push_back("mousemove");
+    if (!origin.empty()) words.insert(words.end(), {"--window", origin});
+    words.insert(words.end(), {std::to_string(to.x - beside), std::to_string(to.y)});
+  }
+  if (button != 0) words.insert(words.end(), {"click", "--delay", "2", std::to_string(button)});
   xdo(words);
 }
 
 void DesktopSession::press_screen(const std::string& caption) {
   wait_until(caption, [&](const View& v) { return v.has(caption); });
   const auto place = view.numbers(caption);
-  const std::string x = std::to_string(place.at(0));
-  const std::string y = std::to_string(place.at(1));
-  xdo({"mousemove", std::to_string(place.at(0) - 1), y, "mousemove", x, y, "click", "--delay", "2",
-       "1"});
+  point("", {place.at(0), place.at(1)}, 1);
 }
 
-void DesktopSession::key(const std::string& keys) {
-  xdo({"key", keys});
-}
-
-void DesktopSession::type(const std::string& text) {
-  xdo({"type", "--delay", "4", text});
+void DesktopSession::keys(const Words& each) {
+  Words words = {"key", "--delay", "10"};
+  words.insert(words.end(), each.begin(), each.end());
+  xdo(words);
 }
 
 void DesktopSession::paste(const std::string& text) {
   run({"xclip", "-selection", "clipboard"}, text);
-  // Under wine it takes its way through another process.
-  if (kWindows != nullptr) comes_true([](const View&) { return false; }, Milliseconds(100));
   key("ctrl+v");
 }
 
 // The window manager's own key: one that comes while it still moves the focus is lost on it.
 void DesktopSession::maximise_or_not() {
-  const int width = view.number("width");
-  for (int tries = 0; tries < 3; ++tries) {
+  wait_for("front", 1);
+  const int before = view.number("maximised");
+  for (bool done = false; !done;) {
     key("alt+F10");
-    if (comes_true([&](const View& v) { return v.number("width") != width; }, Milliseconds(3000))) {
-      return;
-    }
+    done = comes_true([&](const View& v) { return v.number("maximised") != before; },
+                      Milliseconds(10000));
   }
 }
 
@@ -336,6 +305,18 @@ void DesktopSession::resize(int width, int height) {
   xdo({"windowsize", window, std::to_string(width), std::to_string(height)});
   wait_for("width", width);
   wait_for("height", height);
+}
+
+// They take keys and the frame's close first.
+void DesktopSession::clear_the_way() {
+  const auto clear = [](const View& v) {
+    return v.text("box").empty() && v.number("popup") == 0 && v.number("front") == 1;
+  };
+  wait_until("a clear way", [&](const View& v) {
+    if (clear(v)) return true;
+    key("Escape");
+    return comes_true(clear, Milliseconds(1000));
+  });
 }
 
 void DesktopSession::dismiss_opening() {
@@ -347,7 +328,7 @@ void DesktopSession::dismiss_opening() {
 // A window that is just being shown again has no picture yet.
 Shot DesktopSession::shot() {
   Outcome grabbed;
-  for (int tries = 0; tries < 20 && !grabbed.out.starts_with("P6"); ++tries) {
+  for (int tries = 0; tries < 100 && !grabbed.out.starts_with("P6"); ++tries) {
     grabbed = run({"import", "-window", window, "-depth", "8", "ppm:-"});
   }
   Shot result;
@@ -362,19 +343,24 @@ Shot DesktopSession::shot() {
 }
 
 Shot DesktopSession::settled_shot() {
-  Shot before = shot();
-  for (int tries = 0; tries < 40; ++tries) {
-    Shot after = shot();
-    if (after == before) return after;
-    before = std::move(after);
-  }
-  throw std::runtime_error("the picture never settles");
+  Shot settled;
+  int same = 0;
+  wait_until("a picture that settles", [&](const View&) {
+    Shot now = shot();
+    same = now == settled ? same + 1 : 0;
+    settled = std::move(now);
+    return same == 2;
+  });
+  return settled;
 }
 
 int DesktopSession::pixel(const Shot& picture, float x, float y) {
-  find_size();
   const Place place = place_of(x, y);
   return picture.pixel(place.x, place.y);
+}
+
+void DesktopSession::wait_for_colour(float x, float y, int colour) {
+  wait_until("a colour", [&](const View&) { return pixel(shot(), x, y) == colour; });
 }
 
 // Under wine what asks the program to end is the end of the session.
@@ -386,13 +372,8 @@ void DesktopSession::send(int signal) {
   kill(static_cast<pid_t>(game->processId()), signal);
 }
 
-void DesktopSession::freeze_screen() const {
-  kill(static_cast<pid_t>(screen_->processId()), SIGSTOP);
-}
-
-void DesktopSession::lose_screen() {
-  screen_->kill();
-  screen_->waitForFinished(5000);
+void DesktopSession::signal_screen(int signal) const {
+  kill(static_cast<pid_t>(screen_->processId()), signal);
 }
 
 // Wine itself complains of a computer without a sequencer.
@@ -405,25 +386,14 @@ std::string DesktopSession::said() const {
   return all;
 }
 
-void DesktopSession::expect_quiet_end(Milliseconds most) {
+void DesktopSession::expect_quiet_end() {
   const auto asked = Clock::now();
-  ASSERT_TRUE(game->waitForFinished(kPatience * 10000)) << "it goes on";
+  ASSERT_TRUE(game->waitForFinished(20000)) << "it goes on";
   const auto took = std::chrono::duration_cast<Milliseconds>(Clock::now() - asked);
   RecordProperty("ended_after_ms", static_cast<int>(took.count()));
-  EXPECT_LT(took, kPatience * most);
   EXPECT_EQ(game->exitStatus(), QProcess::NormalExit);
   EXPECT_EQ(game->exitCode(), 0);
   listen(0);
-  EXPECT_EQ(said(), "");
-  std::istringstream lines(out);
-  for (std::string line; std::getline(lines, line);) {
-    EXPECT_NE(line.find('\t'), std::string::npos) << line;
-  }
-}
-
-void DesktopSession::expect_still_running() {
-  listen(0);
-  EXPECT_EQ(game->state(), QProcess::Running);
   EXPECT_EQ(said(), "");
 }
 

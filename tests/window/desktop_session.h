@@ -18,20 +18,19 @@ namespace tombrello {
 class View {
  public:
   void take(const std::string& line);
-  bool has(const std::string& key) const { return find(key) != nullptr; }
-  std::string text(const std::string& key) const;
+  bool has(const std::string& key) const { return told_.contains(key); }
+  std::string text(const std::string& key) const { return has(key) ? told_.at(key) : ""; }
   int number(const std::string& key) const { return std::atoi(text(key).c_str()); }
   std::vector<int> numbers(const std::string& key) const;
   /// Card k of seat 1's hand, from 1, as it lies: above 1000 while it is selected.
   std::vector<int> hand() const { return numbers("hand1"); }
-  int cards(int seat) const { return numbers("n").at(static_cast<std::size_t>(seat - 1)); }
-  std::string everything() const;
+  bool shows(const std::string& on_table) const;
 
  private:
-  using Told = std::map<std::string, std::string>;
-  const std::string* find(const std::string& key) const;
-  std::map<std::string, Told> told_;  ///< by kind of line
+  std::map<std::string, std::string> told_;
 };
+
+using Condition = std::function<bool(const View&)>;
 
 /// The window's picture.
 struct Shot {
@@ -51,7 +50,7 @@ struct Outcome {
 
 /// The numbers that the quick game is started with.
 struct Quick {
-  unsigned long clock = 1;
+  int clock = 1;
   int deal = 25;   ///< thousandths of the deal's pauses
   int turns = 25;  ///< thousandths of all pauses after the deal
   int rare = 0;    ///< of those in a reshuffle and at the end of a hand, if not as all
@@ -63,55 +62,64 @@ inline int asked_for(const char* name, int otherwise) {
   return value == nullptr ? otherwise : std::atoi(value);
 }
 
+/// The build of the program for Windows, if that is the one to be played, under wine.
+inline const char* const kWindows = std::getenv("TOMBRELLO_WINDOWS");
+
 /// A screen of the test's own with a window manager, and the game on it: the one for this system,
 /// or, where TOMBRELLO_WINDOWS names its build, the one for Windows, under wine. Presses are real
-/// ones, told in the table's logical units. What doesn't happen in time throws, which fails the
-/// test.
+/// ones, told in the table's logical units. What doesn't happen within a minute throws, which
+/// fails the test.
 class DesktopSession : public ::testing::Test {
  protected:
   using Milliseconds = std::chrono::milliseconds;
+  using Words = std::vector<std::string>;
 
   void SetUp() override;
   void TearDown() override;
 
-  void start_quick(Quick quick = {});
+  void start_screen();
+  /// `before` stands before the game's own words.
+  void start_quick(Quick quick = {}, const std::filesystem::path& program = TOMBRELLO_QUICK,
+                   Words before = {});
   /// A copy of the program, in a folder within `folder`.
   void start_shipped(const std::filesystem::path& within = {});
-  void start(const std::vector<std::string>& words);
+  void start(const Words& words);
+  /// Runs a command to its end; throws if that takes longer than two minutes.
+  Outcome run(const Words& words, const std::string& input = {});
+  /// Starts a server, and waits for what it prints.
+  std::unique_ptr<QProcess> serve(const Words& words, std::string& printed);
+  static void end(std::unique_ptr<QProcess>& process);
+  static Words under_wine(Words words);
 
-  void wait_until(const std::string& what, const std::function<bool(const View&)>& holds,
-                  Milliseconds most = Milliseconds(20000));
-  bool comes_true(const std::function<bool(const View&)>& holds, Milliseconds most);
+  void wait_until(const std::string& what, const Condition& holds);
   void wait_for(const std::string& key, int value);
+  bool comes_true(const Condition& holds, Milliseconds most);
   /// Waits until what is seen stays the same for a moment.
   Shot settled_shot();
   Shot shot();
+  void wait_for_colour(float x, float y, int colour);
+  int pixel(const Shot& shot, float x, float y);
 
-  void press(float x, float y, int button = 1);
-  void move(float x, float y);
-  /// Words for one call of xdotool, to press many times without a break.
-  std::vector<std::string> press_words(float x, float y, int button);
+  void press(float x, float y, int button = 1) { point(window, place_of(x, y), button); }
+  void move(float x, float y) { point(window, place_of(x, y), 0); }
   void press_screen(const std::string& caption);  ///< an entry or button that shows
-  void key(const std::string& keys);
-  void type(const std::string& text);
+  void key(const std::string& keys) { xdo({"key", keys}); }
+  void keys(const Words& each);
   void paste(const std::string& text);
-  Outcome xdo(std::vector<std::string> words);
-  /// Runs a short command to its end; throws if it takes longer than half a minute.
-  Outcome run(const std::vector<std::string>& words, const std::string& input = {});
+  Outcome xdo(Words words);
 
   void resize(int width, int height);  ///< once the window isn't maximised any more
   void maximise_or_not();
+  void clear_the_way();  ///< of boxes and menus
   void close_by_frame() { key("alt+F4"); }
   void dismiss_opening();
 
   /// The game ends soon, with status 0 and without a word.
-  void expect_quiet_end(Milliseconds most = Milliseconds(1000));
-  void expect_still_running();
+  void expect_quiet_end();
   void send(int signal);
-  void freeze_screen() const;  ///< from here on it answers nobody
-  void lose_screen();          ///< with the connection of all that are on it
+  /// Stopped, it answers nobody; killed, it takes the connection of all that are on it along.
+  void signal_screen(int signal) const;
   std::string file(const std::string& name) const;
-  int pixel(const Shot& shot, float x, float y);
 
   View view;
   std::filesystem::path folder;
@@ -126,23 +134,17 @@ class DesktopSession : public ::testing::Test {
     int x;
     int y;
   };
-  Place place_of(float x, float y) const;
-  std::unique_ptr<QProcess> launch(const std::vector<std::string>& words);
+  Place place_of(float x, float y);
+  void point(const std::string& origin, Place to, int button);
+  std::unique_ptr<QProcess> launch(const Words& words);
   void listen(int milliseconds);
   void read_view();
   std::string said() const;  ///< on standard error, by the game
-  void start_screen();
   void prepare_wine();
-  static std::vector<std::string> under_wine(std::vector<std::string> words);
-  void find_size();
 
   std::unique_ptr<QProcess> screen_;
   std::unique_ptr<QProcess> manager_;
   std::size_t read_ = 0;
-  int width_ = 0;
-  int height_ = 0;
-  int bar_ = 20;   // the menu bar above the table
-  int line_ = 24;  // the chronicle line below it
 };
 
 }  // namespace tombrello

@@ -1,11 +1,33 @@
 #include "player.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "tools/simulation/script.h"
 
 namespace tombrello {
+namespace {
+
+bool all_down(const View& view) {
+  const auto hand = view.hand();
+  return std::all_of(hand.begin(), hand.end(), [](int card) { return card < kSelected; });
+}
+
+bool match_is_over(const View& view) {
+  const auto totals = view.numbers("totals");
+  return std::max(totals.at(0), totals.at(1)) >= kWinningTotal;
+}
+
+}  // namespace
+
+bool hand_is_over(const View& view) {
+  return view.number("continue") == 1 || match_is_over(view);
+}
+
+void PlayingSession::draw_for_dealer(int cards, Quick quick) {
+  start_quick(quick);
+  dismiss_opening();
+  turn_up(1, cards);
+}
 
 void PlayingSession::turn_up(int first, int last) {
   for (int card = first; card <= last; ++card) {
@@ -17,35 +39,17 @@ void PlayingSession::turn_up(int first, int last) {
 }
 
 void PlayingSession::begin(Quick quick) {
-  start_quick(quick);
-  dismiss_opening();
-  turn_up(1, 4);
+  draw_for_dealer(4, quick);
   wait_for("pile", 1);
 }
 
-bool PlayingSession::hand_is_over() const {
-  const auto totals = view.numbers("totals");
-  return view.number("continue") == 1 || std::max(totals.at(0), totals.at(1)) >= kWinningTotal;
-}
-
-void PlayingSession::wait_for_turn() {
-  wait_until(
-      "seat 1's turn",
-      [&](const View& v) {
-        return hand_is_over() || (v.number("seat") == 1 && v.number("drawn") == 0 &&
-                                  v.number("pile") + v.number("stock") > 0 && v.has("pile"));
-      },
-      Milliseconds(60000));
-}
-
 // A press in the pause that ends the deal is lost, so that it may take two.
-void PlayingSession::draw(float x) {
-  for (int tries = 0; tries < 10; ++tries) {
-    press(x, 300);
-    const auto drawn = [](const View& v) { return v.number("drawn") == 1; };
-    if (comes_true(drawn, Milliseconds(800))) return;
-  }
-  throw std::runtime_error("no card can be drawn");
+void PlayingSession::draw() {
+  const auto drawn = [](const View& v) { return v.number("drawn") == 1; };
+  wait_until("a card drawn", [&](const View&) {
+    press(430, 300);
+    return comes_true(drawn, Milliseconds(1000));
+  });
 }
 
 void PlayingSession::press_slot(int slot, int button) {
@@ -61,34 +65,42 @@ void PlayingSession::select(const std::vector<int>& slots) {
   }
 }
 
-void PlayingSession::lay(float x) {
-  press(x, 440);
-  wait_until("cards to be laid or to drop", [](const View& v) {
-    const auto hand = v.hand();
-    return std::all_of(hand.begin(), hand.end(), [](int card) { return card < kSelected; });
-  });
+// Whether one was found and accepted.
+bool PlayingSession::lay_meld() {
+  const auto meld = find_meld(view.hand());
+  if (meld.empty()) return false;
+  const auto before = view.text("melds1");
+  select(meld);
+  press(300, 440);
+  wait_until("cards to be laid or to drop", all_down);
+  return view.text("melds1") != before;
 }
 
-void PlayingSession::discard(int slot) {
-  press_slot(slot, 1);
-  wait_until("the discard", [](const View& v) {
-    return v.number("seat") != 1 || v.number("continue") == 1 || v.cards(1) == 0;
-  });
-}
-
-void PlayingSession::play_hand(bool sensibly) {
-  for (wait_for_turn(); !hand_is_over(); wait_for_turn()) {
-    draw(kStock);
-    for (bool accepted = sensibly; accepted && view.cards(1) > 0;) {
-      const auto meld = find_meld(view.hand());
-      const auto before = view.text("melds1");
-      if (meld.empty()) break;
-      select(meld);
-      lay();
-      accepted = view.text("melds1") != before;
+void PlayingSession::play_until(const Condition& there, bool sensibly) {
+  const auto own_turn = [&](const View& v) {
+    return there(v) || (v.number("seat") == 1 && v.number("drawn") == 0 && v.number("pile") > 0);
+  };
+  for (wait_until("seat 1's turn", own_turn); !there(view); wait_until("a turn", own_turn)) {
+    draw();
+    while (sensibly && lay_meld()) continue;
+    if (const auto hand = view.hand(); !hand.empty()) {
+      press_slot(sensibly ? 1 : static_cast<int>(hand.size()), 1);
     }
-    if (view.cards(1) > 0) discard(sensibly ? 1 : view.cards(1));
+    wait_until("the discard", [&](const View& v) {
+      return there(v) || v.number("seat") != 1 || v.hand().empty();
+    });
   }
+}
+
+void PlayingSession::play_match_by_keys() {
+  for (int strokes = 0; strokes < 3000 && !match_is_over(view); ++strokes) {
+    keys({"Tab", "Return"});
+    comes_true(match_is_over, Milliseconds(30));
+  }
+  wait_until("the last word", [](const View& v) {
+    const std::string told = v.text("chronicle");
+    return told.starts_with("Avete vinto") || told.starts_with("La partita va a");
+  });
 }
 
 }  // namespace tombrello

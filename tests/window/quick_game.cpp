@@ -1,7 +1,7 @@
 // tombrello-quick FOLDER CLOCK DEAL TURNS [RARE]: the game in its window, with its files in
 // FOLDER, chance from a clock that counts up from CLOCK, and pauses of so many thousandths of
-// their length: DEAL until the pile stands, TURNS from then on, but RARE in a reshuffle and at the
-// end of a hand. It tells on standard output what a test waits for.
+// their length: DEAL until the pile stands, TURNS from then on, but RARE, unless it is 0, in a
+// reshuffle and at the end of a hand. It tells on standard output what a test waits for.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,14 +11,17 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTimer>
+#include <algorithm>
+#include <chrono>
 #include <cstdlib>
+#include <filesystem>
+#include <iterator>
+#include <thread>
 
 #include "pictures/pictures.h"
 #include "qt/desktop.h"
 #include "qt/disk_archive.h"
-#include "shell/program.h"
 #include "telling.h"
-#include "tools/simulation/quiet.h"
 
 namespace tombrello {
 namespace {
@@ -41,7 +44,7 @@ std::string place(const QWidget& widget, QPoint point) {
 template <class Container>
 void add_actions(Line& line, const Container& container) {
   for (const QAction* action : container.actions()) {
-    line.add(action->text().remove('&').toStdString().c_str(),
+    line.add(action->text().remove('&').toStdString(),
              place(container, container.actionGeometry(const_cast<QAction*>(action)).center()));
   }
 }
@@ -58,7 +61,7 @@ void add_screen(Line& line) {
       line.add("bar", frame->centralWidget()->y()).add("minimised", frame->isMinimized());
       const auto* chronicle = frame->findChild<QLabel*>("chronicle");
       line.add("line", chronicle->height()).add("chronicle", chronicle->text().toStdString());
-      line.add("ready", frame->isMaximized() && frame->isActiveWindow());
+      line.add("front", frame->isActiveWindow()).add("maximised", frame->isMaximized());
       add_actions(line, *frame->findChild<QMenuBar*>());
       line.add("checks", checks(*frame->findChild<QMenuBar*>()));
     } else if (const auto* menu = qobject_cast<const QMenu*>(widget)) {
@@ -67,8 +70,7 @@ void add_screen(Line& line) {
   }
   if (box != nullptr) {
     for (const QAbstractButton* button : box->buttons()) {
-      line.add(button->text().remove('&').toStdString().c_str(),
-               place(*button, button->rect().center()));
+      line.add(button->text().remove('&').toStdString(), place(*button, button->rect().center()));
     }
   }
 }
@@ -85,38 +87,33 @@ extern "C" const char* __lsan_default_options() {
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:libdbus-1\nleak:libfontconfig";
 }
+
+// Qt waits for the end of its bus thread, not for what that thread lets go of last: this leaves
+// after all that was made in `main`, and before leaks are looked for.
+static const struct LastThreads {
+  ~LastThreads() {
+    const std::filesystem::directory_iterator none;
+    for (int patience = 2000; patience > 0; --patience) {
+      const std::filesystem::directory_iterator threads("/proc/self/task");
+      if (std::distance(threads, none) == 1) return;
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+  }
+} last_threads;
 #endif
 
 int main(int argc, char** argv) {
   using namespace tombrello;
-  using namespace tombrello::qt;
-  Desktop desktop(argc, argv, art::draw_picture, art::draw_icon);
-  if (argc != 5 && argc != 6) return 2;
+  qt::Desktop desktop(argc, argv, art::draw_picture, art::draw_icon);
+  if (argc < 5 || argc > 6) return 2;
   const std::filesystem::path folder = argv[1];
-  DiskArchive archive(folder, folder / "user");
-  CountingClock clock(std::strtoull(argv[2], nullptr, 10));
-  const State* state = nullptr;
-  QuickTimer timer(desktop.timer(), [&] {
-    const bool reshuffle = texts(desktop.window().surface()).find("Rimescolo") != std::string::npos;
-    if (argc == 6 && (reshuffle || state->phase == Phase::open_hands)) return std::atoi(argv[5]);
-    return std::atoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]);
-  });
-  Program program({desktop.window(), timer, archive, clock, desktop.wave(), desktop.sequencer(),
-                   desktop.beeper(), capital});
-  desktop.set_media_events(&program);
-  state = &program.state();
-  Teller deck;
-  Teller game;
+  qt::DiskArchive archive(folder, folder / "user");
+  QuickGame::Numbers numbers{};
+  std::transform(argv + 2, argv + argc, numbers.begin(), [](const char* n) { return atoi(n); });
+  QuickGame game(desktop, archive, qt::capital, numbers);
   QTimer look;
-  QObject::connect(&look, &QTimer::timeout, &look, [&] {
-    deck.tell(Line("cards").add("deck", program.state().mazzo, 1, kCards).text());
-    Line line("game");  // all in one, so that a reader sees one moment
-    add_state(line, program.state());
-    add_window(line, desktop.window());
-    add_screen(line);
-    game.tell(line.text());
-  });
+  QObject::connect(&look, &QTimer::timeout, &look, [&] { game.tell(add_screen); });
   look.start(15);
-  program.run();
+  game.run();
   return 0;
 }

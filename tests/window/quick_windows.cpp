@@ -5,13 +5,12 @@
 #include <fcntl.h>
 #include <io.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
 #include "pictures/pictures.h"
-#include "shell/program.h"
 #include "telling.h"
-#include "tools/simulation/quiet.h"
 #include "windows/desktop.h"
 
 namespace tombrello {
@@ -59,8 +58,8 @@ std::string checks(HMENU menu) {
 }
 
 void add_middle(Line& line, const std::wstring& caption, const RECT& place) {
-  line.add(utf8(caption).c_str(), std::to_string((place.left + place.right) / 2) + ',' +
-                                      std::to_string((place.top + place.bottom) / 2));
+  line.add(utf8(caption), std::to_string((place.left + place.right) / 2) + ',' +
+                              std::to_string((place.top + place.bottom) / 2));
 }
 
 void add_entries(Line& line, HWND window, HMENU menu) {
@@ -124,7 +123,7 @@ void add_screen(Line& line, DesktopWindow& window) {
   }
   line.add("chronicle", utf8(text_of(chronicle)));
   line.add("minimised", IsIconic(frame) != 0);
-  line.add("ready", IsZoomed(frame) && GetForegroundWindow() == frame);
+  line.add("front", GetForegroundWindow() == frame).add("maximised", IsZoomed(frame) != 0);
   add_entries(line, frame, GetMenu(frame));
   line.add("checks", checks(GetMenu(frame)));
   for (const HWND popup : shown.menus) {
@@ -150,35 +149,17 @@ void CALLBACK on_time(HWND, UINT, UINT_PTR, DWORD) {
 
 int wmain(int argc, wchar_t** argv) {
   using namespace tombrello;
-  using namespace tombrello::windows;
-  if (argc != 5 && argc != 6) return 2;
+  if (argc < 5 || argc > 6) return 2;
   _setmode(_fileno(stdout), _O_BINARY);
-  Desktop desktop(art::draw_picture);
+  windows::Desktop desktop(art::draw_picture);
   const std::wstring folder = whole_path(argv[1]);
-  DiskArchive archive(folder, folder + L"\\user");
-  CountingClock clock(std::wcstoull(argv[2], nullptr, 10));
-  const State* state = nullptr;
-  QuickTimer timer(desktop.timer(), [&] {
-    const bool reshuffle = texts(desktop.window().surface()).find("Rimescolo") != std::string::npos;
-    if (argc == 6 && (reshuffle || state->phase == Phase::open_hands)) return _wtoi(argv[5]);
-    return _wtoi(state->n_pozzo == 0 && !state->ha_pescato ? argv[3] : argv[4]);
-  });
-  Program program({desktop.window(), timer, archive, clock, desktop.wave(), desktop.sequencer(),
-                   desktop.beeper(), capital});
-  desktop.set_media_events(&program);
-  state = &program.state();
-  Teller deck;
-  Teller game;
-  look = [&] {
-    deck.tell(Line("cards").add("deck", program.state().mazzo, 1, kCards).text());
-    Line line("game");  // all in one, so that a reader sees one moment
-    add_state(line, program.state());
-    add_window(line, desktop.window());
-    add_screen(line, desktop.window());
-    game.tell(line.text());
-  };
+  windows::DiskArchive archive(folder, folder + L"\\user");
+  QuickGame::Numbers numbers{};
+  std::transform(argv + 2, argv + argc, numbers.begin(), _wtoi);
+  QuickGame game(desktop, archive, windows::capital, numbers);
+  look = [&] { game.tell([&](Line& line) { add_screen(line, desktop.window()); }); };
   const UINT_PTR looks = SetTimer(nullptr, 0, 15, on_time);
-  program.run();
+  game.run();
   KillTimer(nullptr, looks);
   look = nullptr;
   return 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdio>
 #include <functional>
 #include <string>
@@ -11,6 +12,8 @@
 #include "seam/timer.h"
 #include "seam/window.h"
 #include "shell/ids.h"
+#include "shell/program.h"
+#include "tools/simulation/quiet.h"
 
 namespace tombrello {
 
@@ -26,33 +29,16 @@ class QuickTimer : public Timer {
   std::function<int()> thousandths_;
 };
 
-/// Prints a line whenever it differs from the last one of its kind.
-class Teller {
- public:
-  void tell(const std::string& line) {
-    if (line == last_) return;
-    last_ = line;
-    std::puts(line.c_str());
-    std::fflush(stdout);
-  }
-
- private:
-  std::string last_;
-};
-
-/// A line of what is told: its kind, and behind it keys with their values.
+/// All that is told of one moment: keys with their values.
 class Line {
  public:
-  explicit Line(const char* kind) : text_(kind) {}
-  Line& add(const char* key, const std::string& value) {
-    text_ += '\t';
-    text_ += key;
-    text_ += '=' + value;
+  Line& add(const std::string& key, const std::string& value) {
+    text_ += key + '=' + value + '\t';
     return *this;
   }
-  Line& add(const char* key, int value) { return add(key, std::to_string(value)); }
+  Line& add(const std::string& key, int value) { return add(key, std::to_string(value)); }
   template <class Numbers>
-  Line& add(const char* key, const Numbers& numbers, int first, int last) {
+  Line& add(const std::string& key, const Numbers& numbers, int first, int last) {
     std::string list;
     for (int k = first; k <= last; ++k) {
       list += std::to_string(numbers[static_cast<std::size_t>(k)]) + (k < last ? "," : "");
@@ -65,42 +51,86 @@ class Line {
   std::string text_;
 };
 
-inline void add_state(Line& line, const State& s) {
-  line.add("seat", s.di_turno).add("action", s.azione).add("drawn", s.ha_pescato);
-  line.add("dealer", s.cartaro).add("turned", s.valori_estratti, 1, kSeats);
-  line.add("index", s.indice_estrazione).add("n", s.n_mano, 1, kSeats);
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    const std::string number = std::to_string(seat);
-    line.add(("hand" + number).c_str(), s.mano[seat], 1, s.n_mano[seat]);
-    line.add(("melds" + number).c_str(), s.calate[seat], 1, s.n_calate[seat]);
-  }
-  line.add("pile", s.n_pozzo).add("top", s.n_pozzo > 0 ? s.pozzo[s.n_pozzo - 1U] : 0);
-  line.add("stock", s.tallone).add("round", s.numero_mano).add("totals", s.punti_totali, 1, 2);
-  for (std::size_t i = 0; i < s.nomi.size(); ++i) {
-    line.add(("name" + std::to_string(i + 1)).c_str(), s.nomi[i]);
-  }
-  // Between turns, which is when seat 1 is waited for, the state must be sound.
-  const bool between_turns = s.di_turno == 1 && !s.ha_pescato && s.n_pozzo > 0;
-  line.add("fault", between_turns ? check_state(s, {}) : "");
-}
+/// The game on a desktop, with its numbers as they are told in quick_game.cpp.
+class QuickGame {
+ public:
+  using Numbers = std::array<int, 4>;
 
-// What is printed on the table, each text with a bar behind it.
-inline std::string texts(const Surface& surface) {
-  std::string all;
-  for (const Item& item : surface.items()) {
-    if (const auto* text = std::get_if<TextItem>(&item)) all += text->text + '|';
+  template <class Desktop>
+  QuickGame(Desktop& desktop, Archive& archive, Capital capital, const Numbers& numbers)
+      : window_(desktop.window()),
+        numbers_(numbers),
+        clock_(static_cast<std::uint64_t>(numbers[0])),
+        timer_(desktop.timer(), [this] { return thousandths(); }),
+        program_({window_, timer_, archive, clock_, desktop.wave(), desktop.sequencer(),
+                  desktop.beeper(), *capital}) {
+    desktop.set_media_events(&program_);
   }
-  return all;
-}
+  void run() { program_.run(); }
 
-inline void add_window(Line& line, Window& w) {
-  line.add("replay", w.enabled(menu_replay)).add("continue", w.enabled(menu_continue));
-  line.add("names", w.enabled(personalize_players)).add("marked", w.checked(menu_replay));
-  line.add("rustle", w.checked(menu_card_rustle_1)).add("opening", w.visible(quadro));
-  line.add("rules", w.visible(TxtItaliano)).add("help", w.visible(TxtHelp));
-  line.add("info", w.visible(Text4)).add("dialog", w.visible(TxtPlayer_0 + 1));
-  line.add("pointer", static_cast<int>(w.pointer()));
-  line.add("texts", texts(w.surface()));
-}
+  /// Prints a line if it differs from the last one; `add_screen` adds what only the system knows.
+  template <class AddScreen>
+  void tell(AddScreen add_screen) {
+    Line line;
+    add_state(line);
+    add_window(line);
+    add_screen(line);
+    if (line.text() == told_) return;
+    told_ = line.text();
+    std::puts(told_.c_str());
+    std::fflush(stdout);
+  }
+
+ private:
+  int thousandths() const {
+    const State& s = program_.state();
+    const bool rare =
+        s.phase == Phase::open_hands || texts().find("Rimescolo") != std::string::npos;
+    if (rare && numbers_[3] != 0) return numbers_[3];
+    return numbers_[s.n_pozzo == 0 && !s.ha_pescato ? 1 : 2];
+  }
+
+  // What is printed on the table, each text with a bar behind it.
+  std::string texts() const {
+    std::string all;
+    for (const Item& item : window_.surface().items()) {
+      if (const auto* text = std::get_if<TextItem>(&item)) all += text->text + '|';
+    }
+    return all;
+  }
+
+  void add_state(Line& line) const {
+    const State& s = program_.state();
+    line.add("seat", s.di_turno).add("action", s.azione).add("drawn", s.ha_pescato);
+    line.add("dealer", s.cartaro).add("deck", s.mazzo, 1, kCards);
+    line.add("index", s.indice_estrazione).add("n", s.n_mano, 1, kSeats);
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      const std::string number = std::to_string(seat);
+      line.add("hand" + number, s.mano[seat], 1, s.n_mano[seat]);
+      line.add("name" + number, s.nomi[static_cast<std::size_t>(seat - 1)]);
+    }
+    line.add("melds1", s.calate[1], 1, s.n_calate[1]);
+    line.add("pile", s.n_pozzo).add("stock", s.tallone).add("round", s.numero_mano);
+    line.add("totals", s.punti_totali, 1, 2);
+    // Between turns, which is when seat 1 is waited for, the state must be sound.
+    const bool between_turns = s.di_turno == 1 && !s.ha_pescato && s.n_pozzo > 0;
+    line.add("fault", between_turns ? check_state(s, {}) : "");
+  }
+
+  void add_window(Line& line) const {
+    line.add("continue", window_.enabled(menu_continue));
+    line.add("opening", window_.visible(quadro)).add("rules", window_.visible(TxtItaliano));
+    line.add("help", window_.visible(TxtHelp)).add("info", window_.visible(Text4));
+    line.add("dialog", window_.visible(TxtPlayer_0 + 1));
+    line.add("pointer", static_cast<int>(window_.pointer())).add("texts", texts());
+  }
+
+  Window& window_;
+  Numbers numbers_;
+  CountingClock clock_;
+  QuickTimer timer_;
+  Program program_;
+  std::string told_;
+};
 
 }  // namespace tombrello

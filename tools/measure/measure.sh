@@ -24,7 +24,7 @@ benches=(tombrello-bench-{rules,table,pictures})
 folder=$(mktemp -d)
 game='' xvfb='' manager=''
 trap 'kill $game $manager $xvfb 2>/dev/null || true; rm -rf "$folder"' EXIT
-cp -r build/play/{tombrello,music,sounds} "$folder"
+cp -r build/play/{tombrello,tombrello-sound.so,music,sounds} "$folder"
 printf ' %s \r\n' 1 >"$folder/config.zvq"
 printf '%s\r\n' TU OVEST NORD EST >>"$folder/config.zvq"
 printf ' %s \r\n' 0 0 100 >>"$folder/config.zvq" # no sound, no tune, cards of their usual size
@@ -59,8 +59,8 @@ first_paint() {
     start "$2"
     echo "$paint"
     leave
-  done | sort -n | sed -n 3p >"$folder/median"
-  row "first paint, $1" "$(cat "$folder/median") ms"
+  done >"$folder/paints" # no pipe: the trap must know the game
+  row "first paint, $1" "$(sort -n "$folder/paints" | sed -n 3p) ms"
 }
 
 ticks() { awk '{print $14 + $15}' "/proc/$game/stat"; }

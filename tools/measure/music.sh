@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 folder=$(mktemp -d)
 program=$(realpath "${1:-build/play/tombrello}")
-cp -r "$(dirname "$program")"/{music,sounds} "$program" "$folder"
+cp -r "$(dirname "$program")"/{music,sounds,tombrello-sound.so} "$program" "$folder"
 
 exec 3< <(Xvfb -displayfd 1 -screen 0 1024x768x24 2>/dev/null)
 xvfb=$!

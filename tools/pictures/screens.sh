@@ -23,7 +23,7 @@ build/dev/tests/window/tombrello-quick "$folder" "${1:-27}" 5 5 >"$folder/told" 
 game=$!
 
 # What the game told last under a name.
-told() { grep '^game' "$folder/told" | tail -n 1 | tr '\t' '\n' | sed -n "s/^$1=//p"; }
+told() { tail -n 1 "$folder/told" | tr '\t' '\n' | sed -n "s/^$1=//p"; }
 wait_for() {
   for ((tries = 0; tries < 200; ++tries)); do
     [ "$(told "$1")" = "$2" ] && return
@@ -74,7 +74,8 @@ wait_for_turn() {
   done
 }
 
-wait_for ready 1
+wait_for maximised 1
+wait_for front 1
 window=$(xdotool search --onlyvisible --name '^Frassivo - Tombrello$' | head -n 1)
 take opening
 xdotool key alt+r

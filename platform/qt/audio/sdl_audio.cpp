@@ -6,6 +6,7 @@
 
 #include "devices/takes.h"
 #include "qt/audio/sdl_mixer_device.h"
+#include "qt/audio/soundfont.h"
 
 namespace tombrello::qt {
 namespace {
@@ -87,21 +88,13 @@ class SdlTunes : public devices::TunePlayer {
   Tune tune_;
 };
 
-std::string missing_soundfont() {
-  return SdlMixerDevice::has_soundfont() ? "" : "timgm6mb-soundfont";
-}
+}  // namespace
 
-devices::System system_of(const std::filesystem::path& folder, std::function<void()> beep) {
+devices::System sdl_system(const std::filesystem::path& folder, std::function<void()> beep) {
   const auto device = std::make_shared<SdlMixerDevice>();
   return {[=] { return std::make_unique<SdlWaves>(device, folder); },
           [=] { return std::make_unique<SdlTunes>(device, folder); }, std::move(beep),
           missing_soundfont};
 }
-
-}  // namespace
-
-SdlAudio::SdlAudio(const std::filesystem::path& folder, std::function<void()> wake,
-                   std::function<void()> system_beep, unsigned seed)
-    : Audio(system_of(folder, std::move(system_beep)), std::move(wake), seed) {}
 
 }  // namespace tombrello::qt

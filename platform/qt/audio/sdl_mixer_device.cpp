@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "qt/audio/midi_reader.h"
+#include "qt/audio/soundfont.h"
 #include "qt/audio/wave_check.h"
 
 namespace tombrello::qt {
@@ -23,23 +24,7 @@ constexpr int kTuneVolume = 64;  // of 128: behind the cards
 constexpr std::uintmax_t kMostWave = 8 << 20;
 constexpr std::uintmax_t kMostTune = 1 << 20;
 
-// The small ones first: a font is loaded anew with each tune.
-constexpr const char* kSoundfonts[] = {
-    "/usr/share/sounds/sf2/TimGM6mb.sf2",   "/usr/share/soundfonts/TimGM6mb.sf2",
-    "/usr/share/sounds/sf2/default-GM.sf2", "/usr/share/soundfonts/default.sf2",
-    "/usr/share/sounds/sf2/FluidR3_GM.sf2", "/usr/share/soundfonts/FluidR3_GM.sf2",
-    "/usr/share/sounds/sf3/default-GM.sf3",
-};
-
 // Only a font that is there is named: trying others costs a line on standard error each time.
-const char* find_soundfont() {
-  for (const char* font : kSoundfonts) {
-    std::error_code error;
-    if (fs::is_regular_file(font, error)) return font;
-  }
-  return nullptr;
-}
-
 bool choose_soundfont() {
   const char* const font = find_soundfont();
   return font != nullptr && Mix_SetSoundFonts(font) != 0;
@@ -92,10 +77,6 @@ SdlMixerDevice::Lease SdlMixerDevice::lease() {
   stood_open_ = true;
   ++leases_;
   return Lease(this);
-}
-
-bool SdlMixerDevice::has_soundfont() {
-  return find_soundfont() != nullptr;
 }
 
 void SdlMixerDevice::leave_thread() {

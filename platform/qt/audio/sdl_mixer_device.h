@@ -43,10 +43,6 @@ class SdlMixerDevice {
   /// lease then.
   std::unique_lock<std::mutex> hold_still() { return std::unique_lock(mutex_); }
 
-  /// Whether any soundfont is installed, without which no tune can be heard. For any thread, at
-  /// any time.
-  static bool has_soundfont();
-
   /// For a thread that has called the device, at its end: what is kept for it is given back.
   static void leave_thread();
 
