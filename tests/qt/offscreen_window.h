@@ -83,6 +83,7 @@ class OffscreenWindow : public DesktopWindow, public ScriptedPlayer {
   std::string text(ControlId field) {
     return qobject_cast<QLineEdit*>(widgets_.at(field))->text().toStdString();
   }
+  std::string name(ControlId field) { return widgets_.at(field)->accessibleName().toStdString(); }
   /// The visible control that lies over all others, 0 for none.
   ControlId front() {
     const auto& children = table().children();

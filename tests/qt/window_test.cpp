@@ -10,7 +10,6 @@
 #include <array>
 #include <random>
 
-#include "compare.h"
 #include "qt/canvas.h"
 #include "qt/desktop_timer.h"
 #include "qt/desktop_window.h"
@@ -19,19 +18,11 @@
 namespace tombrello::qt {
 namespace {
 
-struct Listener : WindowEvents {
+struct Listener : EventRelay {
   void pressed(Button button, float x, float y) override {
     presses.push_back({static_cast<float>(button), x, y});
   }
-  void moved(float, float) override {}
-  void entry_chosen(EntryId) override {}
-  void control_clicked(ControlId) override {}
-  void control_key_pressed(ControlId) override {}
   void field_changed(ControlId, const std::string& text) override { field = text; }
-  void field_confirmed(ControlId) override {}
-  void key_pressed(Key) override {}
-  void key_released(Key) override {}
-  void place_pressed(int, Button) override {}
   void timer_ticked() override { ++ticks; }
 
   std::vector<std::array<float, 3>> presses;
@@ -102,7 +93,7 @@ TEST_F(WindowTest, ShowsTheSurfaceSharpAfterAnyResize) {
     const QImage shown = on_screen();
     const QRect table =
         to_qrect(window_.table().geometry_in_pixels().table()).adjusted(0, 0, -1, -1);
-    EXPECT_TRUE(same_pixels(shown.copy(table), wanted().copy(table))) << size.width();
+    EXPECT_TRUE(shown.copy(table) == wanted().copy(table)) << size.width();
   }
 }
 
@@ -138,7 +129,7 @@ TEST_F(WindowTest, ReportsPressesWhereverTheyFall) {
 
 TEST_F(WindowTest, AnEighthLetterInTheMiddlePushesNoneOut) {
   const FieldRule seven = [](const std::string& text, int already) {
-    return text.substr(0, static_cast<std::size_t>(std::max(0, 7 - already)));
+    return text.substr(0, 7U - static_cast<unsigned>(already));
   };
   window_.add_field(5, seven, {"MS Sans Serif", 7.8F});
   window_.place(5, {75, 32, 135, 46.8F});
