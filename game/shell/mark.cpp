@@ -74,9 +74,7 @@ void Mark::mark_again() {
     const auto card = own_card(own_card_ > 0 ? own_card_ : kHandSlots);
     if (card) spot_ = card;
   }
-  own_card_ = spots_[*spot_].own_card;
-  on_melds_ = spots_[*spot_].on_melds;
-  show(spots_[*spot_].told.area);
+  take(*spot_);
 }
 
 bool Mark::still_acts(const Area& area) const {
@@ -105,10 +103,14 @@ std::optional<std::size_t> Mark::own_card(int slot) const {
 }
 
 void Mark::choose(std::size_t spot) {
+  at_ = any_point(spots_[spot]);
+  take(spot);
+}
+
+void Mark::take(std::size_t spot) {
   spot_ = spot;
   own_card_ = spots_[spot].own_card;
   on_melds_ = spots_[spot].on_melds;
-  at_ = any_point(spots_[spot]);
   show(spots_[spot].told.area);
 }
 

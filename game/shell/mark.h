@@ -33,6 +33,7 @@ class Mark {
   std::optional<std::size_t> nearest() const;
   std::optional<std::size_t> own_card(int slot) const;
   void choose(std::size_t spot);
+  void take(std::size_t spot);
   void show(const std::optional<Area>& area);
   std::optional<std::size_t> next(std::size_t from, int direction) const;
   std::optional<std::size_t> beyond(std::size_t from, bool upward) const;

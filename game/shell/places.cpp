@@ -110,10 +110,6 @@ void Places::add_own_hand(Spots& spots) const {
     Spot& spot = spots.back();
     spot.own_card = k;
     spot.told.selected = selected;
-    // With cards selected a left press on any of the fan lowers them all, but for a raised one's
-    // upper part, where it would lay.
-    if (!spot.press) spot.press = point_for(Button::left, card, Pointer::Act::lower);
-    spot.told.can_press = spot.press.has_value();
   }
 }
 
@@ -126,16 +122,14 @@ void Places::add_scores(Spots& spots) const {
 
 // The zones are odd and change with the size of cards: a point is looked for, from the middle of
 // what is painted outward, where a press means this very place.
-std::optional<PressPoint> Places::point_for(Button button, const Place& place,
-                                            Pointer::Act wanted) const {
+std::optional<PressPoint> Places::point_for(Button button, const Place& place) const {
   constexpr std::array kParts = {0.5F, 0.3F, 0.7F, 0.15F, 0.85F, 0.05F, 0.95F};
   for (const float down : kParts) {
     for (const float across : kParts) {
       const PressPoint point{place.left + across * (place.right - place.left),
                              place.top + down * (place.bottom - place.top)};
       const auto meaning = pointer_.meaning(button, point.x, point.y);
-      if (meaning.act == Pointer::Act::none) continue;
-      if (meaning.act == wanted || meaning.place == place) return point;
+      if (meaning.act != Pointer::Act::none && meaning.place == place) return point;
     }
   }
   return std::nullopt;

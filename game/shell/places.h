@@ -46,9 +46,8 @@ class Places {
   void add_scores(Spots& spots) const;
   std::string name_of(int seat) const { return s_.nomi[static_cast<std::size_t>(seat - 1)]; }
   Place hand_of(int seat) const;
-  /// Where within a place a press acts on just this place, or has the wanted act.
-  std::optional<PressPoint> point_for(Button button, const Place& place,
-                                      Pointer::Act wanted = Pointer::Act::none) const;
+  /// Where within a place a press acts on just this place.
+  std::optional<PressPoint> point_for(Button button, const Place& place) const;
 
   const State& s_;
   const Geometry& g_;

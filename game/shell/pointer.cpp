@@ -114,7 +114,7 @@ void Pointer::tell_why_nothing_happens(float x, float y) {
     if (!is_on_strip(seat, x, y)) continue;
     if (seat % 2 == 0) return chronicle_.remark(kOthersMeld);
     const Place band = g_.band_for_pointer(seat);
-    if (y < band.top && band.left <= x && x <= band.right) chronicle_.remark(kLowerHalf);
+    if (y < band.top && x <= band.right) chronicle_.remark(kLowerHalf);
   }
 }
 

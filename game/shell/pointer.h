@@ -33,11 +33,10 @@ class Pointer {
     draw_for_dealer,
     draw_from_pile,
     draw_from_stock,
-    select,  ///< or unselect
-    discard,
-    lower,  ///< the selected cards
-    add,    ///< the selected card, to a meld
-    lay     ///< the selected cards, as a meld
+    select,   ///< or unselect
+    discard,  ///< or lower the selected cards
+    add,      ///< the selected card, to a meld
+    lay       ///< the selected cards, as a meld
   };
   struct Meaning {
     Act act = Act::none;
@@ -60,7 +59,6 @@ class Pointer {
   Meaning press_on_side(int side, float x) const;
   bool waits_for_press() const;
   Place card_at(float x) const;
-  Place selected_cards() const;
   Place meld_for(int side, float x) const;
   int count_selected() const;
   bool is_on_fan(float x, float y) const { return g_.fan(s_.n_mano[1]).holds(x, y); }

@@ -32,9 +32,7 @@ Pointer::Meaning Pointer::left_press(float x, float y) const {
     if (g_.band_for_pointer(side).holds(x, y)) return press_on_side(side, x);
   }
   if (s_.ha_pescato) {
-    if (!is_on_fan(x, y)) return {};
-    if (count_selected() > 0) return {Act::lower, selected_cards()};
-    return {Act::discard, card_at(x)};
+    return is_on_fan(x, y) ? Meaning{Act::discard, card_at(x)} : Meaning();
   }
   if (g_.pile().holds(x, y)) return {Act::draw_from_pile, g_.pile()};
   if (g_.stock().holds(x, y)) return {Act::draw_from_stock, g_.stock()};
@@ -75,16 +73,6 @@ int Pointer::count_selected() const {
   const auto& hand = s_.mano[1];
   return static_cast<int>(
       std::count_if(hand.begin(), hand.end(), [](int card) { return card > kSelected; }));
-}
-
-Place Pointer::selected_cards() const {
-  Place all{kSurfaceWidth, 0, 0, 0};
-  for (int k = 1; k <= s_.n_mano[1]; ++k) {
-    if (s_.mano[1][k] <= kSelected) continue;
-    const Place card = g_.hand_card(k, true);
-    all = {std::min(all.left, card.left), card.top, card.right, card.bottom};
-  }
-  return all;
 }
 
 }  // namespace tombrello

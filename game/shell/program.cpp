@@ -56,7 +56,6 @@ void Program::Form_Unload() {
 }
 
 void Program::Form_Activate() {
-  window_.surface().set_background(kGrey);
   g_ = Geometry::at_scale(s_.scala_carte);
   open_with_picture();
   window_.surface().set_background(kFelt);

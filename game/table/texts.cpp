@@ -66,7 +66,6 @@ void PaintedTable::print_name_downward(const std::string& name, float x) {
 }
 
 void PaintedTable::dealer_screen() {
-  surface_.set_background(kFelt);
   surface_.set_font_name("Brush Script MT");
   surface_.set_font_size(24);
   surface_.set_text_colour(kWhite);

@@ -99,9 +99,10 @@ std::string not_of_one_suit(Cards cards, int odd_one) {
 
 std::string not_a_scala(Cards cards) {
   if (const int twin = card_twice(cards); twin != 0) {
-    return in_a_row(all_but(cards, twin))
-               ? "Quasi una scala: " + short_name(twin) + " c'è due volte"
-               : kNotInARow;
+    const auto rest = all_but(cards, twin);
+    if (card_twice(rest) != 0) return "Non è una scala: più di una carta c'è due volte";
+    if (rest.size() == kRanks) return kNoMoreHere;  // the circle closed
+    return in_a_row(rest) ? "Quasi una scala: " + short_name(twin) + " c'è due volte" : kNotInARow;
   }
   const auto missing = missing_ranks(cards);
   if (missing.empty()) return kNoMoreHere;

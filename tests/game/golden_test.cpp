@@ -2,9 +2,6 @@
 // has come and what has gone. CONTRIBUTING.md tells how to renew it.
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 
 #include "tests/game/game.h"
 
@@ -30,23 +27,13 @@ class Record {
  private:
   void step() {
     const Lines now = view(game_);
-    const std::string changes = only_in(before_, now, "  - ") + only_in(now, before_, "  + ");
-    if (changes.empty()) return;
-    text += "\n" + game_.window.told_now + "\n" + changes;
+    const std::string changed = changes(before_, now, "  ");
+    if (changed.empty()) return;
+    text += "\n" + game_.window.told_now + "\n" + changed;
     if (then_ != game_.window.told_then) text += "  (" + game_.window.told_then + ")\n";
     before_ = now;
     then_ = game_.window.told_then;
   }
-  static std::string only_in(const Lines& these, Lines others, const char* sign) {
-    std::string text;
-    for (const auto& line : these) {
-      const auto same = std::find(others.begin(), others.end(), line);
-      if (same == others.end()) text += sign + line + "\n";
-      if (same != others.end()) others.erase(same);
-    }
-    return text;
-  }
-
   static constexpr int kBetweenCards = 389;  // milliseconds
 
   Game& game_;
@@ -85,19 +72,7 @@ std::string at_four_fifths(std::uint64_t seed) {
 }
 
 TEST(Golden, OneMatchIsSeenAsItWas) {
-  const std::string file = TOMBRELLO_ROOT "/tests/game/golden.txt";
-  const std::string text = played(196) + at_four_fifths(196);
-  if (std::getenv("TOMBRELLO_RENEW") != nullptr) std::ofstream(file) << text;
-  std::ifstream golden(file);
-  std::istringstream seen(text);
-  std::string wanted;
-  int number = 0;
-  for (std::string line; std::getline(seen, line);) {
-    ++number;
-    ASSERT_TRUE(std::getline(golden, wanted)) << "more than is told: " << line;
-    ASSERT_EQ(line, wanted) << "line " << number;
-  }
-  EXPECT_FALSE(std::getline(golden, wanted)) << "no more: " << wanted;
+  expect_golden("golden.txt", played(196) + at_four_fifths(196));
 }
 
 }  // namespace

@@ -20,7 +20,9 @@ void expect_closed(Game& game) {
     EXPECT_FALSE(game.window.visible(control)) << control;
   }
   EXPECT_FALSE(has(game.texts(), "Player")) << "nothing of it stays on the table";
-  EXPECT_FALSE(has(seen(game.surface()), "yellow"));
+  for (const char* colour : {"yellow", "pale"}) {
+    EXPECT_FALSE(has(seen(game.surface()), colour));
+  }
 }
 
 TEST(NamesDialog, ItsFieldsHoldCapitalsThatTheFileCanKeep) {
@@ -29,6 +31,7 @@ TEST(NamesDialog, ItsFieldsHoldCapitalsThatTheFileCanKeep) {
   Game game(1, settings);
   game.choose(personalize_players).then([&] {
     EXPECT_EQ(game.window.text(TxtPlayer_0 + 3), "PIA");
+    EXPECT_EQ(game.window.name(TxtPlayer_0 + 3), "Nome del compagno");
     EXPECT_EQ(game.window.front(), Shape1_0);
   });
   type(game, 2, "zoë b");
@@ -61,7 +64,10 @@ TEST(NamesDialog, HoweverItEndsTheNamesStand) {
         EXPECT_EQ(game.archive.files.at("Players"), "TU\r\nIO\r\nNORD\r\nEST\r\n");
         EXPECT_EQ(game.archive.files.size(), 1U) << "the settings file waits for the next write";
       });
-      if (on_picture && end == End::enter) game.dismiss();  // which the others did as well
+      if (on_picture && end == End::enter) {  // the others have dismissed the picture
+        game.then(
+            [&] { EXPECT_TRUE(game.window.press_key(quadro)) << "it has the keyboard again"; });
+      }
       const bool first_card = end == End::going_on && !on_picture;
       game.then([&, first_card] {
         EXPECT_EQ(game.window.enabled(personalize_players), !first_card);
@@ -119,7 +125,7 @@ TEST(NamesDialog, ConfirmedInAReplayedHandTheTableIsPaintedAgain) {
     game.choose(personalize_players).then([&] { before = faces(game); });
     type(game, 3, "leonida");
     game.then([&] {
-      confirm(game);
+      confirm(game, true);
       expect_closed(game);
       EXPECT_EQ(faces(game), before);
       EXPECT_TRUE(has(game.texts(), "'LEONIDA' 370,124.25"));

@@ -60,6 +60,7 @@ TEST(Replay, TheMarkLivesForOneHandAndTheNextIsShuffled) {
   Lines first;
   game.choose(menu_replay).choose(menu_replay).dismiss().until_own_turn().then([&] {
     EXPECT_EQ(game.window.boxes, (Lines{kNotice, kNotice}));
+    EXPECT_EQ(game.surface().background(), kFelt);
     EXPECT_EQ(game.s().mano[1][1], 104) << "dealer 4: the first packet goes to seat 1";
     EXPECT_TRUE(game.window.checked(menu_replay));
     EXPECT_TRUE(game.window.enabled(menu_replay));
@@ -136,17 +137,21 @@ TEST(Menus, APanelLiesInFrontAndGoesAtAPressOnItOrBeside) {
   game.play_to_end();
 }
 
-TEST(Menus, ThatNothingCanBeKeptIsSaidOnce) {
+TEST(Menus, ATroubleIsSaidOnce) {
   Game game;
-  game.archive.to_come = Trouble::full;
-  const auto says = [&](bool so) {
-    game.then([&game, so] { EXPECT_EQ(has({game.window.told_now}, "spazio"), so); });
+  game.choose(menu_card_rustle_1).then([&] { game.archive.to_come = Trouble::full; });
+  game.sequencer.missing = "strumenti";
+  const auto says = [&](const char* what, bool so) {
+    game.then([=, &game] { EXPECT_EQ(has({game.window.told_now}, what), so) << what; });
   };
   game.until_own_turn();  // the deal was to be kept
-  says(true);
-  game.choose(menu_card_rustle_0);
-  game.then([&game] { game.window.press(430, 300); });
-  says(false);
+  says("spazio", true);
+  for (const bool once : {true, false}) {
+    game.choose(all_0);
+    says("strumenti", once);
+    game.then([&game] { game.window.press(430, 300); }).choose(menu_card_rustle_0);
+    says("spazio", false);
+  }
   game.play_to_end();
 }
 
@@ -157,6 +162,7 @@ TEST(Leaving, YesToEsciEndsTheGame) {
   EXPECT_EQ(game.window.boxes, Lines{"Uscire da Tombrello?"});
   EXPECT_TRUE(game.surface().items().empty());
   EXPECT_EQ(game.archive.writes, 0);
+  for (const auto* media : {&game.wave, &game.sequencer}) EXPECT_EQ(media->log.back(), "close");
 }
 
 }  // namespace

@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <fstream>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -78,6 +81,36 @@ inline Lines seen(const Surface& surface, Kind kind = Kind::everything) {
     if (wanted) lines.push_back(seen(item));
   }
   return lines;
+}
+
+/// What has gone and what has come, a line each.
+inline std::string changes(const Lines& before, const Lines& after, const std::string& indent) {
+  const auto only_in = [&](const Lines& these, Lines others, const char* sign) {
+    std::string text;
+    for (const auto& line : these) {
+      const auto same = std::find(others.begin(), others.end(), line);
+      if (same == others.end()) text += indent + sign + line + "\n";
+      if (same != others.end()) others.erase(same);
+    }
+    return text;
+  };
+  return only_in(before, after, "- ") + only_in(after, before, "+ ");
+}
+
+/// Compares line by line with a file of tests/game. CONTRIBUTING.md tells how to renew it.
+inline void expect_golden(const std::string& name, const std::string& text) {
+  const std::string file = TOMBRELLO_ROOT "/tests/game/" + name;
+  if (std::getenv("TOMBRELLO_RENEW") != nullptr) std::ofstream(file) << text;
+  std::ifstream golden(file);
+  std::istringstream seen(text);
+  std::string wanted;
+  int number = 0;
+  for (std::string line; std::getline(seen, line);) {
+    ++number;
+    ASSERT_TRUE(std::getline(golden, wanted)) << "more than is told: " << line;
+    ASSERT_EQ(line, wanted) << name << " line " << number;
+  }
+  EXPECT_FALSE(std::getline(golden, wanted)) << "no more: " << wanted;
 }
 
 }  // namespace tombrello

@@ -106,6 +106,7 @@ TEST_F(TableTest, RepaintShowsWhatTheTableShowed) {
   EXPECT_TRUE(has(repainted(), fifth_back));
   s_.holds_copy = true;
   EXPECT_FALSE(has(repainted(), fifth_back)) << "the pile's top is weighed, not held";
+  EXPECT_EQ(pictures().size(), 6U) << "four backs, pile and stock";
   s_.stock_empty = true;
   EXPECT_FALSE(has(repainted(), stock)) << "the last card was drawn";
   s_.phase = Phase::felt;

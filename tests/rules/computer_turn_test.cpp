@@ -12,7 +12,8 @@ void play(Deal& d, int seat) {
 }
 
 // A turn's three roads, with every pause and repaint in its place: nothing to lay; a meld, which
-// is the draw; an addition that uses the pile's card.
+// is the draw; an addition that uses the pile's card. While that card is only weighed, whoever
+// looks is told so: it is no card of the hand.
 TEST(ComputerTurn, IsShownStepByStep) {
   const struct {
     const char* hand;
@@ -21,15 +22,15 @@ TEST(ComputerTurn, IsShownStepByStep) {
   } kRoads[] = {
       {"2h 5d 8c Js",
        "Kc",
-       {"ritardo 0.2", "ritardo 0.2", "ritardo 0.2", "landed 3 9d'", "stock 1", "ridisegno_dorsi 3",
-        "suona"}},
+       {"ritardo 0.2 weighs", "ritardo 0.2 weighs", "ritardo 0.2 weighs", "landed 3 9d'", "stock 1",
+        "ridisegno_dorsi 3", "suona"}},
       {"2h 5d 6d 8c",
        "Kc 7d'",
        {"pile Kc", "ridisegno_dorsi 3", "calo_carte 3", "ritardo 0.2", "ritardo 0.2", "suona"}},
       {"2h 5d 8c Js",
        "Kc 7s",
-       {"ritardo 0.2", "ritardo 0.2", "pile Kc", "ridisegno_dorsi 3", "calo_carte 1", "beep",
-        "ritardo 0.2", "suona"}},
+       {"ritardo 0.2 weighs", "ritardo 0.2 weighs", "pile Kc", "ridisegno_dorsi 3", "calo_carte 1",
+        "beep", "ritardo 0.2", "suona"}},
   };
   for (const auto& road : kRoads) {
     Deal d;
@@ -37,6 +38,7 @@ TEST(ComputerTurn, IsShownStepByStep) {
     d.table(1, "4s 5s 6s");
     d.pile(road.pile);
     d.stock("9d' 2c'");
+    d.out.in_pause = [&] { d.log.back() += d.s.holds_copy ? " weighs" : ""; };
     play(d, 3);
     Log whole{"hourglass", "ritardo 0.1"};
     whole.insert(whole.end(), road.shown.begin(), road.shown.end());
@@ -80,6 +82,7 @@ TEST(ComputerTurn, ToldCases) {
     d.table(2, c.own);
     d.pile(c.pile);
     d.stock(c.stock);
+    d.s.scelta_pesca = kFromStock;  // by the seat before
     play(d, 2);
     EXPECT_EQ(d.hand_text(2), c.left);
     EXPECT_EQ(d.table_text(2), c.own_after);

@@ -1,13 +1,11 @@
 #pragma once
 
 #include <algorithm>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "match/rules.h"
 #include "tests/rules/recording.h"
-#include "tools/simulation/quiet.h"
 
 namespace tombrello::test {
 
@@ -70,9 +68,6 @@ struct Deal {
     return names(std::vector<int>(s.pozzo.begin(), s.pozzo.begin() + s.n_pozzo));
   }
 
-  float x_of_slot(int slot) const {
-    return m.ventaglio_x() + (static_cast<float>(slot) - 0.5F) * m.passo_carta();
-  }
   void then(std::function<void()> action) { out.actions.push_back(std::move(action)); }
   void post(Azione code, float x = 0) {
     then([this, code, x] {
@@ -81,9 +76,9 @@ struct Deal {
     });
   }
   void select(const std::vector<int>& slots) {
-    for (const int slot : slots) post(kSelect, x_of_slot(slot));
+    for (const int slot : slots) post(kSelect, m.x_of_slot(slot));
   }
-  void discard(int slot) { post(kDiscard, x_of_slot(slot)); }
+  void discard(int slot) { post(kDiscard, m.x_of_slot(slot)); }
 
   State s;
   Geometry m;
@@ -101,22 +96,6 @@ inline Log only(const Log& log, const std::vector<std::string>& words) {
     if (std::any_of(words.begin(), words.end(), begins)) kept.push_back(line);
   }
   return kept;
-}
-
-/// The cards of a whole deck, both packs, in a random order.
-inline std::vector<int> random_deck(std::mt19937& engine) {
-  std::vector<int> deck(kCards);
-  for (int i = 0; i < kCards; ++i) deck[static_cast<std::size_t>(i)] = i + 1;
-  std::shuffle(deck.begin(), deck.end(), engine);
-  return deck;
-}
-
-inline std::string slice_text(const std::vector<int>& hand, int suit) {
-  std::string slice(13, '_');
-  for (const int code : hand) {
-    if (Seme(code) == suit) slice[static_cast<std::size_t>(ValCarta(code) - 1)] = '*';
-  }
-  return slice;
 }
 
 }  // namespace tombrello::test

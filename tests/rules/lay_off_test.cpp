@@ -41,6 +41,7 @@ TEST(LayOff, ToldCases) {
       {"the pile's card stays with a neighbour", 2, "3h 4h 5h", "Ks Qs 7h As 6h", false, "3h 4h 5h",
        "Ks Qs 7h As 6h"},
       {"a tris becomes a poker", 2, "7h 7d 7c", "6s 7s 8s 9s", true, "7h 7d 7s 7c", "6s 8s 9s"},
+      {"a tris without hearts", 2, "7d 7c 7s", "6h 7h 8h", true, "7d 7c 7h 7s", "6h 8h"},
       {"a poker is full", 2, "7h 7d 7c 7s", "7s' 2s", true, "7h 7d 7c 7s", "7s' 2s"},
       {"a suit that is there", 2, "7h 7d 7c", "7h' 2s", true, "7h 7d 7c", "7h' 2s"},
       {"several melds, the pile's card too", 2, "3h 4h 5h | 3d 4d 5d", "6h 6d", false,

@@ -46,7 +46,7 @@ TEST(PersonsTurn, AClickDiscardsTheCardUnderIt) {
       d.hand(1, hand);
       d.stock("Ad 2c");
       d.post(kDrawStock);
-      d.post(kDiscard, d.x_of_slot(slot) + part * d.m.passo_carta() + (slot == 14 ? 40.F : 0.F));
+      d.post(kDiscard, d.m.x_of_slot(slot) + part * d.m.passo_carta() + (slot == 14 ? 40.F : 0.F));
       ASSERT_TRUE(play(d));
       const int thrown = slot == 14 ? card("Ad") : hand[static_cast<std::size_t>(slot - 1)];
       EXPECT_EQ(d.pile_text(), "Kc " + name_of(thrown)) << slot << ' ' << part;
@@ -74,6 +74,7 @@ TEST(PersonsTurn, SelectedCardsAreLoweredBeforeAnyDiscard) {
   d.discard(2);
   d.then([&] {
     EXPECT_EQ(d.hand_text(1), "2h Kd 5s Kc");
+    EXPECT_EQ(d.out.told, "lowered: ");
     EXPECT_EQ(only(d.log, {"ridisegno"}), Log{"ridisegno_carte"});
   });
   d.discard(2);
@@ -84,38 +85,42 @@ TEST(PersonsTurn, SelectedCardsAreLoweredBeforeAnyDiscard) {
 // What the two sides take, and what the person is left with. A refusal by the judge sorts the
 // hand, one on the count doesn't.
 TEST(PersonsTurn, LayingCardsOnASide) {
+  const std::string kTwentySix =
+      "Ah 2h 3h 4h 5h 6h 7h 8h 9h 10h Jh Qh Kh | 3d 4d 5d 6d 7d 8d 9d 10d Jd Qd Kd";
   const struct {
-    const char* rule;
     const char* hand;
     std::vector<int> slots;
-    const char* list;
-    const char* after;
+    std::string list;
+    std::string after;
     const char* left;
+    std::string told;
+    float x = 1;  ///< from where the melds begin
   } kCases[] = {
-      {"three make a meld", "5h 3h Kd 4h", {4, 2, 1}, "", "3h 4h 5h", "Kd Kc"},
-      {"two are always refused", "6h 2h Kd", {1, 2}, "3h 4h 5h", "3h 4h 5h", "6h 2h Kd Kc"},
-      {"one first is refused", "3h Kd", {1}, "", "", "3h Kd Kc"},
-      {"one adds", "2s 6h 9d", {2}, "3h 4h 5h", "3h 4h 5h 6h", "Kc 9d 2s"},
-      {"one that doesn't fit", "2s 7h 9d", {2}, "3h 4h 5h", "3h 4h 5h", "Kc 9d 7h 2s"},
-      {"three that are no meld", "2s 7h 9d", {1, 2, 3}, "3h 4h 5h", "3h 4h 5h", "Kc 9d 7h 2s"},
-      {"none", "2s 7h 9d", {}, "3h 4h 5h", "3h 4h 5h", "2s 7h 9d Kc"},
-      {"three join a scala", "6h 7h 8h 2s", {1, 2, 3}, "3h 4h 5h", "3h 4h 5h 6h 7h 8h", "Kc 2s"},
-      {"no room for 31",
-       "8s 9s 7s 2d",
+      {"5h 3h Kd 4h", {4, 2, 1}, "", "3h 4h 5h", "Kd Kc", "1 lays at S: 5h 3h 4h"},
+      {"6h 2h Kd", {1, 2}, "3h 4h 5h", "3h 4h 5h", "6h 2h Kd Kc", "two: 6h 2h"},
+      {"3h Kd", {1}, "", "", "3h Kd Kc", "no meld yet: 3h"},
+      {"2s 6h 9d", {2}, "3h 4h 5h", "3h 4h 5h 6h", "Kc 9d 2s", "1 adds at S: 6h"},
+      {"2s 7h 9d", {2}, "3h 4h 5h", "3h 4h 5h", "Kc 9d 7h 2s", "fits not: 7h by 3h 4h 5h"},
+      {"2s 6h 9d", {2}, "3h 4h 5h", "3h 4h 5h", "Kc 9d 6h 2s", "beside: 6h", 300},
+      {"2s 7h 9d", {1, 2, 3}, "3h 4h 5h", "3h 4h 5h", "Kc 9d 7h 2s", "no meld: 2s 7h 9d"},
+      {"2s 7h 9d", {}, "3h 4h 5h", "3h 4h 5h", "2s 7h 9d Kc", ""},
+      {"6h 7h 8h 2s", {1, 2, 3}, "3h 4h 5h", "3h 4h 5h 6h 7h 8h", "Kc 2s", "1 lays at S: 6h 7h 8h"},
+      {"8s 9s 7s 2d",
        {1, 2, 3},
-       "Ah 2h 3h 4h 5h 6h 7h 8h 9h 10h Jh Qh Kh | 3d 4d 5d 6d 7d 8d 9d 10d Jd Qd Kd | Ks",
-       "Ah 2h 3h 4h 5h 6h 7h 8h 9h 10h Jh Qh Kh | 3d 4d 5d 6d 7d 8d 9d 10d Jd Qd Kd | Ks",
-       "Kc 9s 8s 7s 2d"},
-      {"30 fit",
-       "8s 9s 7s 2d",
+       kTwentySix + " | Ks",
+       kTwentySix + " | Ks",
+       "Kc 9s 8s 7s 2d",
+       "full: 8s 9s 7s"},
+      {"8s 9s 7s 2d",
        {1, 2, 3},
-       "Ah 2h 3h 4h 5h 6h 7h 8h 9h 10h Jh Qh Kh | 3d 4d 5d 6d 7d 8d 9d 10d Jd Qd Kd",
-       "Ah 2h 3h 4h 5h 6h 7h 8h 9h 10h Jh Qh Kh | 3d 4d 5d 6d 7d 8d 9d 10d Jd Qd Kd | 7s 8s 9s",
-       "Kc 2d"},
+       kTwentySix,
+       kTwentySix + " | 7s 8s 9s",
+       "Kc 2d",
+       "1 lays at S: 8s 9s 7s"},
   };
   for (const auto& c : kCases) {
     for (const Azione side : {kLayOwnSide, kLayPartnerSide}) {
-      SCOPED_TRACE(c.rule);
+      SCOPED_TRACE(c.told);
       Deal d;
       const int seat = side == kLayOwnSide ? 1 : 3;
       d.hand(1, c.hand);
@@ -123,14 +128,18 @@ TEST(PersonsTurn, LayingCardsOnASide) {
       d.post(kDrawPile);
       d.select(c.slots);
       d.then([&] { d.log.clear(); });
-      d.post(side, d.m.striscia_x() + 1);
+      d.post(side, d.m.striscia_x() + c.x);
       EXPECT_FALSE(play(d));
       EXPECT_EQ(d.table_text(seat), c.after);
       EXPECT_EQ(d.table_text(4 - seat), "");
       EXPECT_EQ(d.hand_text(1), c.left);
+      std::string told = c.told;
+      if (const auto place = told.find('S'); place != told.npos)
+        told[place] = seat == 1 ? '1' : '3';
+      EXPECT_EQ(d.out.told, told);
       Log shown;
       if (!c.slots.empty()) shown.emplace_back("ridisegno_carte");
-      if (std::string(c.after) != c.list) {
+      if (c.after != c.list) {
         shown.push_back("calo_carte " + number(seat));
         shown.emplace_back(seat == 1 ? "suona" : "beep");
         if (seat == 3) shown.emplace_back("ritardo 0.2");
@@ -183,19 +192,6 @@ TEST(PersonsTurn, WhatIsPostedOutsideTheWaitIsLost) {
   d.post(kLayPartnerSide);
   EXPECT_FALSE(play(d));
   EXPECT_EQ(d.hand_text(1), "Kc 2h");
-}
-
-// The pile is empty from the draw of its only card to the discard.
-TEST(PersonsTurn, ThePilesOnlyCardMayBeTaken) {
-  Deal d;
-  d.hand(1, "2h 3d");
-  d.post(kDrawPile);
-  d.then([&] {
-    EXPECT_EQ(only(d.log, {"pile"}), Log{"pile_empty"});
-    EXPECT_EQ(d.s.n_pozzo, 0);
-  });
-  d.discard(1);
-  EXPECT_TRUE(play(d));
 }
 
 }  // namespace
