@@ -9,8 +9,8 @@ packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsdl2-dev li
           fonts-urw-base35 timgm6mb-soundfont)
 if [ "${1:-}" = check ]; then
   packages+=(libgtest-dev libbenchmark-dev libfluidsynth-dev clang-format clang-tidy xvfb openbox
-             xdotool imagemagick x11-utils xclip desktop-file-utils libglib2.0-bin dbus at-spi2-core
-             gir1.2-atspi-2.0 python3-gi)
+             xdotool wmctrl imagemagick x11-utils xclip desktop-file-utils libglib2.0-bin dbus
+             at-spi2-core gir1.2-atspi-2.0 python3-gi)
 fi
 if [ "${1:-}" = package ]; then
   packages+=(dpkg-dev debhelper lintian desktop-file-utils appstream libglib2.0-bin debootstrap
@@ -22,7 +22,7 @@ fi
 case "${1:-}" in
   windows | wine)
     packages=(g++ cmake ninja-build g++-mingw-w64-x86-64-posix libagg-dev libutfcpp-dev googletest nsis) ;;&
-  wine) packages+=(wine wine64 xvfb openbox xdotool imagemagick) ;;
+  wine) packages+=(wine wine64 xvfb openbox xdotool wmctrl imagemagick) ;;
 esac
 
 missing=()

@@ -18,8 +18,7 @@ namespace tombrello::qt {
 /// and keys take their way through the window system, the widgets and the event relay.
 class OffscreenWindow : public DesktopWindow, public ScriptedPlayer {
  public:
-  explicit OffscreenWindow(HeadlessTimer& timer)
-      : DesktopWindow(sample_picture, [](int) { return sample_picture({}); }), timer_(timer) {}
+  explicit OffscreenWindow(HeadlessTimer& timer) : DesktopWindow(sample_picture), timer_(timer) {}
 
   void serve_events() override {
     pass(*this, timer_, &events());

@@ -70,7 +70,7 @@ class WindowTest : public testing::Test {
   }
 
   Listener events_;
-  DesktopWindow window_{sample_picture, [](int) { return sample_picture({}); }};
+  DesktopWindow window_{sample_picture};
 };
 
 TEST_F(WindowTest, ShowsTheSurfaceSharpAfterAnyResize) {

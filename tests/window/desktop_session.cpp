@@ -290,15 +290,10 @@ void DesktopSession::paste(const std::string& text) {
   key("ctrl+v");
 }
 
-// The window manager's own key: one that comes while it still moves the focus is lost on it.
 void DesktopSession::maximise_or_not() {
-  wait_for("front", 1);
   const int before = view.number("maximised");
-  for (bool done = false; !done;) {
-    key("alt+F10");
-    done = comes_true([&](const View& v) { return v.number("maximised") != before; },
-                      Milliseconds(10000));
-  }
+  run({"wmctrl", "-i", "-r", window, "-b", "toggle,maximized_vert,maximized_horz"});
+  wait_until("another size", [&](const View& v) { return v.number("maximised") != before; });
 }
 
 void DesktopSession::resize(int width, int height) {

@@ -109,9 +109,10 @@ class DesktopSession : public ::testing::Test {
   Outcome xdo(Words words);
 
   void resize(int width, int height);  ///< once the window isn't maximised any more
+  /// Asked of the window manager itself: a key that comes while it moves the focus is lost on it.
   void maximise_or_not();
+  void close_by_frame() { run({"wmctrl", "-i", "-c", window}); }
   void clear_the_way();  ///< of boxes and menus
-  void close_by_frame() { key("alt+F4"); }
   void dismiss_opening();
 
   /// The game ends soon, with status 0 and without a word.
