@@ -41,7 +41,7 @@ struct Turn {
 
   State s = some_turn();
   Geometry g;
-  qt::DesktopWindow window{art::draw_picture, art::draw_icon};
+  qt::DesktopWindow window{art::draw_picture};
   MemoryArchive archive;
   Settings settings{s, archive};
   Panels panels{window};

@@ -13,6 +13,7 @@
 #include "qt/audio/loaded_system.h"
 #include "qt/audio/sound_module.h"
 #include "qt/session_bus.h"
+#include "qt/style.h"
 
 namespace tombrello::qt {
 namespace {
@@ -79,14 +80,15 @@ Desktop::Application::Application(int& argc, char** argv) : QApplication(argc, a
   setApplicationName("tombrello");
   setApplicationDisplayName("Tombrello");
   setDesktopFileName("tombrello");
+  setStyle(new Style);
   // Qt takes over the user's locale; numbers in files keep their point.
   std::setlocale(LC_NUMERIC, "C");
 }
 
-Desktop::Desktop(int& argc, char** argv, painting::PictureSource pictures, const IconSource& icon)
+Desktop::Desktop(int& argc, char** argv, painting::PictureSource pictures, IconSource icon)
     : messages_(before_start()),
       application_(argc, argv),
-      window_(std::move(pictures), icon),
+      window_(std::move(pictures)),
       timer_(window_.events()),
       archive_(program_folder(), user_folder(),
                is_installed() ? DiskArchive::Keep::with_user : DiskArchive::Keep::beside_program),
@@ -94,7 +96,8 @@ Desktop::Desktop(int& argc, char** argv, painting::PictureSource pictures, const
           loaded_system(sound_module(), program_folder(), QApplication::beep),
           [this] { wake_for_audio(); }, std::random_device()()) {
   qInstallMessageHandler(messages_);
-  window_.after_first_paint([this] {
+  window_.after_first_paint([this, shown = drawn_icon(std::move(icon))] {
+    window_.frame().setWindowIcon(shown);
     audio_.start();
     tell_desktop_entry();
   });

@@ -6,6 +6,7 @@
 #include "qt/desktop_timer.h"
 #include "qt/desktop_window.h"
 #include "qt/disk_archive.h"
+#include "qt/icon.h"
 #include "qt/stop_signal.h"
 
 namespace tombrello::qt {
@@ -31,7 +32,7 @@ class Desktop {
  public:
   /// `pictures` answers the vectors of any picture; `icon` the program's at
   /// any number of pixels.
-  Desktop(int& argc, char** argv, painting::PictureSource pictures, const IconSource& icon);
+  Desktop(int& argc, char** argv, painting::PictureSource pictures, IconSource icon);
 
   Window& window() { return window_; }
   Timer& timer() { return timer_; }

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QIcon>
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
@@ -14,7 +13,6 @@
 #include <utility>
 
 #include "qt/accessible_table.h"
-#include "qt/rasteriser.h"
 
 namespace tombrello::qt {
 namespace {
@@ -25,14 +23,6 @@ constexpr QSize kRestored(1000, 780);
 constexpr int kBoxWidth = 220;
 constexpr auto kBoxFrame = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-
-QIcon icon_of(const IconSource& drawing_for) {
-  QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-    icon.addPixmap(QPixmap::fromImage(rasterise(drawing_for(size), size, size)));
-  }
-  return icon;
-}
 
 Qt::CursorShape cursor_of(PointerShape shape) {
   switch (shape) {
@@ -69,7 +59,7 @@ void DesktopWindow::Frame::stay_on_screen() {
   move(free.topLeft());
 }
 
-DesktopWindow::DesktopWindow(painting::PictureSource pictures, const IconSource& icon)
+DesktopWindow::DesktopWindow(painting::PictureSource pictures)
     : table_(new TableWidget(std::move(pictures), relay_)), line_(new ChronicleLine(nullptr)) {
   table_->set_follower([this] { overlay_.follow_table(); });
   make_tables_accessible();
@@ -85,7 +75,6 @@ DesktopWindow::DesktopWindow(painting::PictureSource pictures, const IconSource&
   frame_.setMinimumSize(400, 300);
   // A tenth is left for borders, which nobody knows before the window stands.
   frame_.resize(kRestored.boundedTo(frame_.screen()->availableSize() * 9 / 10));
-  frame_.setWindowIcon(icon_of(icon));
   // Leaving is up to the chain of the game: the window only says that it is closing.
   QApplication::setQuitOnLastWindowClosed(false);
 }

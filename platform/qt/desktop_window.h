@@ -9,19 +9,15 @@
 #include "qt/controls.h"
 #include "qt/menus.h"
 #include "qt/table_widget.h"
-#include "seam/drawing.h"
 #include "seam/event_relay.h"
 #include "seam/window.h"
 
 namespace tombrello::qt {
 
-/// Answers the program's icon as it is to be shown at so many pixels.
-using IconSource = std::function<Drawing(int)>;
-
 /// The program's window on a Qt desktop. Needs the application object as long as it lives.
 class DesktopWindow : public Window {
  public:
-  DesktopWindow(painting::PictureSource pictures, const IconSource& icon);
+  explicit DesktopWindow(painting::PictureSource pictures);
 
   void set_events(WindowEvents* events) override { relay_.set_target(events); }
   Surface& surface() override { return table_->surface(); }
