@@ -56,7 +56,11 @@ bool Wave::Box::asked() const {
 void Wave::Box::miss(const std::vector<Job>& missed) {
   if (std::find(missed.begin(), missed.end(), Job{kBeep, true}) == missed.end()) return;
   beep_lost = true;
-  if (wake) wake();
+  try {
+    if (wake) wake();
+  } catch (const std::exception&) {
+    // Out of memory: it is delivered with the next one.
+  }
 }
 
 void Wave::post(Job job) {

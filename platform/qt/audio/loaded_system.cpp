@@ -1,7 +1,7 @@
 #include "qt/audio/loaded_system.h"
 
-#include <QFile>
-#include <QLibrary>
+#include <dlfcn.h>
+
 #include <mutex>
 #include <utility>
 
@@ -25,10 +25,10 @@ class Module {
  private:
   // What is loaded stays to the end: a thread that a device keeps from ending still runs in it.
   void load() {
-    QLibrary library(QFile::decodeName(file_.c_str()));
-    library.setLoadHints(QLibrary::PreventUnloadHint);
-    const auto entry = reinterpret_cast<decltype(&tombrello_sound)>(library.resolve(kSoundEntry));
-    if (entry != nullptr) entry(folder_, players_);
+    void* const library = dlopen(file_.c_str(), RTLD_LAZY | RTLD_LOCAL | RTLD_NODELETE);
+    if (library == nullptr) return;
+    const auto entry = reinterpret_cast<decltype(&tombrello_sound)>(dlsym(library, kSoundEntry));
+    if (entry != nullptr) entry(TOMBRELLO_VERSION, folder_, players_);
   }
 
   std::filesystem::path file_;
