@@ -84,7 +84,9 @@ void Program::control_clicked(ControlId control) {
   if (control == Text4) panels_.text4_Click();
 }
 
+// A panel over the picture takes the keys.
 void Program::control_key_pressed(ControlId control) {
+  if (panels_.any_open()) return panels_.hide_all();
   if (control == quadro) s_.click_avvio = true;
 }
 

@@ -93,12 +93,20 @@ void PictureControl::fit(const Area& area) {
 void PictureControl::paint(HDC dc, const RECT& stale) {
   const PixelRect place = client_pixels(handle());
   const painting::PixelSize size{place.width(), place.height()};
-  if (buffer_.memory().size != size) {
+  if (size != asked_for_) prepare(size);
+  buffer_.show(dc, stale);
+}
+
+// Without memory for it nothing shows.
+void PictureControl::prepare(painting::PixelSize size) {
+  asked_for_ = size;
+  try {
     const Drawing drawing = table_.pictures().vectors(picture_);
     put(buffer_, raster::rasterise(drawing, size.width, size.height), table_.letters(),
         table_.surface().background());
+  } catch (const std::bad_alloc&) {
+    buffer_.drop();
   }
-  buffer_.show(dc, stale);
 }
 
 void PictureControl::set_shown(bool shown) {
@@ -107,6 +115,7 @@ void PictureControl::set_shown(bool shown) {
     take_keyboard();
   } else {
     buffer_.drop();
+    asked_for_ = {};
   }
 }
 
@@ -121,7 +130,7 @@ LRESULT PictureControl::message(UINT message, WPARAM w, LPARAM l) {
       events_.control_clicked(id_);
       return 0;
     case WM_KEYDOWN:
-      if (w == VK_F1) table_.take_key_from_elsewhere(w);
+      w == VK_F1 ? table_.take_key_from_elsewhere(w) : table_.scrolls_panel(w);
       return 0;
     case WM_CHAR:
       events_.control_key_pressed(id_);

@@ -37,10 +37,13 @@ class PictureControl : public PaintedWindow, public Control {
   void paint(HDC dc, const RECT& stale) override;
 
  private:
+  void prepare(painting::PixelSize size);
+
   ControlId id_;
   Picture picture_;
   WindowEvents& events_;
   BackBuffer buffer_;
+  painting::PixelSize asked_for_;
 };
 
 }  // namespace tombrello::windows

@@ -41,6 +41,8 @@ class TableView : public NativeWindow {
 
   /// A key that whoever has the keyboard has no use for: help and escape are the table's anywhere.
   bool take_key_from_elsewhere(WPARAM key);
+  /// One that scrolls, while a panel shows.
+  bool scrolls_panel(WPARAM key) const;
 
  protected:
   LRESULT message(UINT message, WPARAM w, LPARAM l) override;
@@ -53,7 +55,6 @@ class TableView : public NativeWindow {
   void pressed(Button button, LPARAM place);
   void moved(LPARAM place);
   bool key(UINT message, WPARAM key, LPARAM l);
-  bool scrolls_panel(WPARAM key) const;
   void repaint_mark();
   bool show_pointer(HWND under) const;
   Point logical(LPARAM place) const;

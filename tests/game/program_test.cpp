@@ -20,6 +20,9 @@ TEST(Opening, AClickAKeyOrAPressBesideDismissesThePicture) {
       EXPECT_EQ(game.window.caption(), "Frassivo - Tombrello");
       EXPECT_EQ(game.window.front(), quadro);
       game.window.move(300, 490);
+      game.window.choose(menu_help);
+      EXPECT_TRUE(game.window.press_key(quadro));
+      EXPECT_FALSE(game.window.visible(TxtHelp));
       EXPECT_TRUE(game.window.visible(quadro));
       dismiss(game.window);
     });
