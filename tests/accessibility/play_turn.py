@@ -49,7 +49,7 @@ def names():
     return found
 
 
-def wait_for(test, what, seconds=20):
+def wait_for(test, what, seconds=60):
     until = time.time() + seconds
     while time.time() < until:
         while GLib.MainContext.default().iteration(False):
@@ -97,6 +97,7 @@ def own_cards():
 
 
 def main():
+    Atspi.set_timeout(10000, 30000)  # a busy machine may keep the game from answering
     listener = Atspi.EventListener.new(listen)
     _, opening = wait_for(lambda n: n.startswith("Tombrello: fai clic"), "the opening")
     act(opening, "Press")
@@ -119,9 +120,10 @@ def main():
     wait_for(lambda n: n == name + ", scelta", "the third card selected")
     act(wait_for(lambda n: n == name + ", scelta", "it")[1], "Toggle")
     wait_for(lambda n: n == name, "the third card lowered")
+    announced.clear()
     act(wait_for(lambda n: n == name, "it")[1], "Press")
     wait_for(lambda n: "Gioca OVEST" in n or "OVEST: " in n, "the next seat")
-    if not is_announced("Tocca a te", 5):
+    if not is_announced("Tocca a te", 60):
         sys.exit(f"the own turn isn't announced, but {announced}")
     print(f"drawn, selected, lowered, discarded: {name}")
 

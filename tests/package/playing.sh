@@ -39,5 +39,5 @@ play_turn() { # [COMMAND, run between the draw and the discard]
   until_true 60 shows_card 500 530
   until_true 120 has_drawn
   "${@:-true}"
-  until_true 10 has_discarded
+  until_true 60 has_discarded
 }

@@ -28,7 +28,8 @@ press() {
 }
 shows_card() {
   read -r x y < <(in_window "$1" "$2")
-  ! import -window "$window" -crop "1x1+$x+$y" -depth 8 txt:- | grep -q '#007000'
+  import -window "$window" -crop "1x1+$x+$y" -depth 8 txt:- >"$work/pixel" &&
+    grep -q '#' "$work/pixel" && ! grep -q '#007000' "$work/pixel"
 }
 
 "$wine" cmd /c exit # its world is there
@@ -39,6 +40,9 @@ registered='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Tombrello'
 rm -rf "$home"
 list() { (cd "$own" && find . -path ./Local/Temp -prune -o ! -path ./Local/Programs -print | LC_ALL=C sort); }
 known() { "$wine" reg query "$registered" >/dev/null 2>&1; }
+says_yes() { # to the question, whose own answer would be no
+  keys alt+y && sleep 1 && [ ! -e "$home" ]
+}
 expect_left() { # what else than before
   ! known || fail 'Windows still knows of it'
   (cd "$own" && LC_ALL=C comm -13 "$work/before" <(list)) | diff <(printf '%s' "$1") - ||
@@ -51,7 +55,7 @@ say 'installed without a word'
 "$wine" reg query "$registered" /v DisplayVersion | grep -q "$(basename "$setup" | grep -o '[0-9][0-9.]*[0-9]')"
 say 'started from the menu, a turn played'
 "$wine" start /wait /unix "$entry" 2>/dev/null &
-until_true 30 stands '^Frassivo - Tombrello$'
+until_true 60 stands '^Frassivo - Tombrello$'
 window=$(window_of '^Frassivo - Tombrello$')
 sleep 1
 play_turn
@@ -62,8 +66,8 @@ wait $! || fail 'it does not end well'
 say 'nothing left but the settings'
 cp "$home/config.zvq" "$work/kept"
 "$wine" "$home/Uninstall.exe" /S
-until_true 20 test ! -e "$home/Uninstall.exe"
-until_true 10 eval '! known'
+until_true 60 test ! -e "$home/Uninstall.exe"
+until_true 60 eval '! known'
 cmp "$home/config.zvq" "$work/kept"
 expect_left './Local/Programs/Tombrello
 ./Local/Programs/Tombrello/config.zvq
@@ -72,13 +76,11 @@ say 'the settings found again, and gone when that is asked for'
 "$wine" "$setup" /S
 cmp "$home/config.zvq" "$work/kept"
 "$wine" "$home/Uninstall.exe" &
-until_true 20 stands 'Tombrello'
+until_true 60 stands 'Tombrello'
 sleep 1
 keys Return
-sleep 1
-keys alt+y # its own answer would be no
-until_true 20 test ! -e "$home"
+until_true 60 says_yes
 keys Return
-until_true 10 eval '! known'
+until_true 60 eval '! known'
 expect_left ''
 say 'all proved'

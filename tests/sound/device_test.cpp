@@ -11,6 +11,7 @@
 
 #include "qt/audio/sdl_audio.h"
 #include "qt/audio/wave_check.h"
+#include "tests/last_threads.h"
 #include "tests/sound/listening.h"
 #include "tools/sounds/sounds.h"
 
@@ -68,6 +69,10 @@ struct Heard {
     }));
     disk.pass(0.05);
   }
+  /// Until so many sounds have begun.
+  void await_begun(std::size_t count) {
+    EXPECT_TRUE(disk.await([&] { return onsets(disk.heard()).size() >= count; })) << count;
+  }
   /// Waits for the end of what plays; false if it doesn't come.
   bool await_end() {
     return disk.await([this] { return woken.exchange(false); });
@@ -89,8 +94,10 @@ TEST(Waves, WhatWasToldBeforeTheDeviceStoodIsHeardAndClosingLetsItFinish) {
   heard.audio.start();
   heard.await_waves();
   heard.open(heard.audio.wave(), "sounds/carta.wav");
+  heard.await_begun(1);
   heard.disk.pass(1.2);
   heard.play_wave();
+  heard.await_begun(2);
   heard.disk.pass(0.4);
   const auto samples = heard.disk.heard();
   const auto begun = onsets(samples);
@@ -114,6 +121,7 @@ TEST(Waves, ASoundWithSeveralTakesIsNeverHeardAlikeTwiceRunning) {
   constexpr std::size_t plays = 12;
   for (std::size_t i = 0; i < plays; ++i) {
     heard.play_wave();
+    heard.await_begun(i + 1);
     heard.disk.pass(0.5);
   }
   const auto samples = heard.disk.heard();
@@ -150,7 +158,7 @@ TEST(Waves, FilesThatAreNoneAreSilent) {
   heard.disk.pass(0.3);
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 0U);
   heard.audio.beeper().beep();
-  heard.await_waves();
+  heard.await_begun(1);
   heard.disk.pass(0.3);
   EXPECT_EQ(onsets(heard.disk.heard()).size(), 1U);
   EXPECT_EQ(heard.system_beeps, 0);
@@ -362,13 +370,13 @@ TEST(NoAudio, AServerThatHangsHoldsNothingUp) {
     devices::Audio audio(
         sdl_system(heard.disk.folder(), [&] { ++heard.system_beeps; }), [] {}, 1);
     audio.start();
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    audio.beeper().beep();  // who knows yet?
+    ASSERT_GE(accept(server, nullptr, nullptr), 0);
     for (int i = 0; i < 10'000; ++i) heard.open(audio.wave(), "sounds/carta.wav");
     audio.sequencer().command(Command::play);
-    audio.beeper().beep();  // who knows yet?
     audio.beeper().beep();
     const std::lock_guard lock(audio.wave().box()->mutex);
-    EXPECT_FALSE(audio.wave().box()->finished) << "the server didn't hang: nothing was tried";
+    EXPECT_FALSE(audio.wave().box()->finished);
     EXPECT_LE(audio.wave().box()->jobs.size(), 2U);
   }
   EXPECT_EQ(heard.system_beeps, 1);

@@ -287,6 +287,9 @@ void DesktopSession::keys(const Words& each) {
 
 void DesktopSession::paste(const std::string& text) {
   run({"xclip", "-selection", "clipboard"}, text);
+  wait_until("the clipboard", [&](const View&) {
+    return run({"xclip", "-o", "-selection", "clipboard"}).out == text;
+  });
   key("ctrl+v");
 }
 
@@ -383,7 +386,7 @@ std::string DesktopSession::said() const {
 
 void DesktopSession::expect_quiet_end() {
   const auto asked = Clock::now();
-  ASSERT_TRUE(game->waitForFinished(20000)) << "it goes on";
+  ASSERT_TRUE(game->waitForFinished(60000)) << "it goes on";
   const auto took = std::chrono::duration_cast<Milliseconds>(Clock::now() - asked);
   RecordProperty("ended_after_ms", static_cast<int>(took.count()));
   EXPECT_EQ(game->exitStatus(), QProcess::NormalExit);

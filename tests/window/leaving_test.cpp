@@ -66,7 +66,7 @@ class LeavingFrom : public PlayingSession, public ::testing::WithParamInterface<
 
   // Nobody is told any more that the game has ended.
   void expect_end_without_screen() {
-    ASSERT_TRUE(game->waitForFinished(20000)) << "it goes on";
+    ASSERT_TRUE(game->waitForFinished(60000)) << "it goes on";
     EXPECT_EQ(game->exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(game->exitCode(), 1);
     const std::string said = game->readAllStandardError().toStdString();

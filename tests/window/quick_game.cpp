@@ -12,16 +12,13 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
-#include <filesystem>
-#include <iterator>
-#include <thread>
 
 #include "pictures/pictures.h"
 #include "qt/desktop.h"
 #include "qt/disk_archive.h"
 #include "telling.h"
+#include "tests/last_threads.h"
 
 namespace tombrello {
 namespace {
@@ -87,19 +84,6 @@ extern "C" const char* __lsan_default_options() {
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:libdbus-1\nleak:libfontconfig";
 }
-
-// Qt waits for the end of its bus thread, not for what that thread lets go of last: this leaves
-// after all that was made in `main`, and before leaks are looked for.
-static const struct LastThreads {
-  ~LastThreads() {
-    const std::filesystem::directory_iterator none;
-    for (int patience = 2000; patience > 0; --patience) {
-      const std::filesystem::directory_iterator threads("/proc/self/task");
-      if (std::distance(threads, none) == 1) return;
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-  }
-} last_threads;
 #endif
 
 int main(int argc, char** argv) {

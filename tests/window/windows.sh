@@ -7,6 +7,7 @@ cd "$(dirname "$0")/../.."
 export WINEPREFIX=${WINEPREFIX:-$PWD/build/wine}
 trap 'timeout 30 wineserver -k || true' EXIT
 
+tools/windows/wine.sh # makes that world
 ctest --preset windows
 scenarios=(Shipped.OpensDealsAndCloses Table.AWholeHandFromTheDrawToTheNextDeal
            Shell.TheLastHandCanBeDealtAgain Sizes.ThePictureSurvivesThemAndMinimising
@@ -16,4 +17,4 @@ for scenario in "${scenarios[@]}"; do
     --gtest_brief=1 --gtest_filter="$scenario" | tee build/windows/played
   grep -q '1 test .*ran' build/windows/played
 done
-timeout 180 tests/package/windows.sh build/windows/package/*-setup.exe
+timeout 600 tests/package/windows.sh build/windows/package/*-setup.exe
